@@ -1,0 +1,180 @@
+#include "NumberText.hpp"
+
+#include "Fault.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+
+namespace ordwise {
+namespace {
+
+constexpr int doubleDigits = 15;
+constexpr int singleDigits = 7;
+constexpr int smallestPlainExponent = -15;
+
+// A number as digits and a decimal exponent: 0.0325 is negative false, digits "325", exponent -2
+// (the first digit stands for that power of ten). Zero has no digits.
+struct Decimal {
+    bool negative = false;
+    std::string digits;
+    int exponent = 0;
+};
+
+Decimal decimalOf(double value, int significant) {
+    if (value == 0.0) return {};
+    char buffer[40];
+    std::snprintf(buffer, sizeof buffer, "%.*e", significant - 1, value);
+    Decimal result;
+    const char* p = buffer;
+    if (*p == '-') {
+        result.negative = true;
+        ++p;
+    }
+    for (; *p != 'e' && *p != '\0'; ++p) {
+        if (*p >= '0' && *p <= '9') result.digits += *p;
+    }
+    if (*p == 'e') result.exponent = std::atoi(p + 1);
+    while (!result.digits.empty() && result.digits.back() == '0') result.digits.pop_back();
+    return result;
+}
+
+std::string exponentForm(const Decimal& number) {
+    std::string text = number.digits.substr(0, 1);
+    if (number.digits.size() > 1) text += "." + number.digits.substr(1);
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, "E%c%02d", number.exponent < 0 ? '-' : '+', std::abs(number.exponent));
+    return text + buffer;
+}
+
+std::string plainForm(const Decimal& number) {
+    const int count = static_cast<int>(number.digits.size());
+    if (number.exponent < 0)
+        return "0." + std::string(static_cast<std::size_t>(-number.exponent - 1), '0') + number.digits;
+    const int whole = number.exponent + 1;
+    if (count <= whole) return number.digits + std::string(static_cast<std::size_t>(whole - count), '0');
+    return number.digits.substr(0, static_cast<std::size_t>(whole)) + "." +
+           number.digits.substr(static_cast<std::size_t>(whole));
+}
+
+std::string write(double value, int significant) {
+    const Decimal number = decimalOf(inRange(value), significant);
+    if (number.digits.empty()) return "0";
+    const bool plain = number.exponent < significant && number.exponent >= smallestPlainExponent;
+    return (number.negative ? "-" : "") + (plain ? plainForm(number) : exponentForm(number));
+}
+
+double roundDigits(double value, int places, int significant) {
+    Decimal number = decimalOf(value, significant);
+    // How many of the digits stay; the first digit stands `exponent` places left of the point.
+    const int kept = number.exponent + 1 + places;
+    const int count = static_cast<int>(number.digits.size());
+    if (kept >= count) return value;
+    if (kept < 0) return 0.0;
+    const std::string rest = number.digits.substr(static_cast<std::size_t>(kept));
+    number.digits.resize(static_cast<std::size_t>(kept));
+    const bool odd = kept > 0 && (number.digits.back() - '0') % 2 == 1;
+    const bool up = rest[0] > '5' || (rest[0] == '5' && (rest.size() > 1 || odd));
+    std::string whole = "0" + number.digits;
+    if (up) {
+        std::size_t i = whole.size() - 1;
+        while (whole[i] == '9') whole[i--] = '0';
+        ++whole[i];
+    }
+    const std::string text = (number.negative ? "-" : "") + whole + "e" + std::to_string(-places);
+    const double result = std::strtod(text.c_str(), nullptr);
+    return result == 0.0 ? 0.0 : result;
+}
+
+// The length of the longest beginning of `text`, from `start` on, that spells a number; 0 if none.
+std::size_t numberLength(std::string_view text, std::size_t start) {
+    const auto digit = [&](std::size_t i) { return i < text.size() && text[i] >= '0' && text[i] <= '9'; };
+    std::size_t i = start;
+    if (i < text.size() && (text[i] == '+' || text[i] == '-')) ++i;
+    const std::size_t first = i;
+    while (digit(i)) ++i;
+    std::size_t digits = i - first;
+    if (i < text.size() && text[i] == '.') {
+        ++i;
+        const std::size_t decimals = i;
+        while (digit(i)) ++i;
+        digits += i - decimals;
+    }
+    if (digits == 0) return 0;
+    if (i < text.size() && (text[i] == 'E' || text[i] == 'e')) {
+        std::size_t e = i + 1;
+        if (e < text.size() && (text[e] == '+' || text[e] == '-')) ++e;
+        if (digit(e)) {
+            while (digit(e)) ++e;
+            i = e;
+        }
+    }
+    return i - start;
+}
+
+std::string_view withoutBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+}  // namespace
+
+std::string textOf(double value) {
+    return write(value, doubleDigits);
+}
+
+std::string textOf(float value) {
+    return write(static_cast<double>(value), singleDigits);
+}
+
+std::string textOf(int value) {
+    return std::to_string(value);
+}
+
+std::string textOf(std::int64_t value) {
+    return std::to_string(value);
+}
+
+std::string signedTextOf(int value) {
+    return (value < 0 ? "" : " ") + std::to_string(value);
+}
+
+bool IsNumeric(std::string_view text) {
+    const std::string_view number = withoutBlanks(text);
+    return !number.empty() && numberLength(number, 0) == number.size();
+}
+
+double valueOf(std::string_view text) {
+    if (!IsNumeric(text)) raise(FaultNumber::TypeMismatch);
+    return inRange(std::strtod(std::string(withoutBlanks(text)).c_str(), nullptr));
+}
+
+std::int32_t longOf(std::string_view text) {
+    return longOf(valueOf(text));
+}
+
+std::int32_t longOf(double value) {
+    const double whole = Round(value, 0);
+    if (!(whole >= -2147483648.0 && whole <= 2147483647.0)) raise(FaultNumber::Overflow);
+    return static_cast<std::int32_t>(whole);
+}
+
+double lenientValueOf(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return 0.0;
+    const std::size_t length = numberLength(text, first);
+    if (length == 0) return 0.0;
+    return inRange(std::strtod(std::string(text.substr(first, length)).c_str(), nullptr));
+}
+
+double Round(double value, int places) {
+    return roundDigits(inRange(value), places, doubleDigits);
+}
+
+float Round(float value, int places) {
+    return static_cast<float>(roundDigits(inRange(static_cast<double>(value)), places, singleDigits));
+}
+
+}  // namespace ordwise

@@ -1,0 +1,23 @@
+// Small operations on text that several layers need and the standard library lacks.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ordwise {
+
+// Every occurrence of `from` (not empty) replaced, left to right, what was put in not looked at.
+[[nodiscard]] std::string replaced(std::string text, std::string_view from, std::string_view to);
+// The pieces between the separators; an empty text has one empty piece. e.g. "4,,6" -> "4", "", "6"
+[[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
+[[nodiscard]] std::string joined(const std::vector<std::string>& pieces, std::string_view separator);
+// Without the blanks at both ends.
+[[nodiscard]] std::string trimmed(std::string_view text);
+// ASCII letters in lower case, all other bytes as they are.
+[[nodiscard]] std::string lowered(std::string_view text);
+[[nodiscard]] bool contains(std::string_view text, std::string_view piece);
+// The characters of UTF-8 text, one string each; a byte that belongs to no character stands alone.
+[[nodiscard]] std::vector<std::string> characters(std::string_view utf8);
+
+}  // namespace ordwise

@@ -1,0 +1,27 @@
+// Widths and heights of every glyph, from one place: the terminal, the tests and the desk lay out
+// alike because none of them asks a font.
+//
+// The figures for letters and digits are the advance widths of TeX Gyre Schola (HalvernFont) and
+// TeX Gyre Pagella Bold (the explanation face), in thousandths of an em, read from the fonts. The
+// mathematical shapes of HalvernFont are our own drawings and so are their widths.
+#pragma once
+
+#include <string_view>
+
+namespace ordwise {
+
+enum class Face {
+    Halvern,     // the schoolbook face of the sheets
+    Explanation  // the face of the explanation window and of printed notes
+};
+
+// The height of the em in surface units for a font of `points`. HalvernFont is cut a little larger
+// than its size says, so that stacked fractions close up on the lines that the renderer gives them.
+[[nodiscard]] double emOf(Face face, double points);
+// From the top of a line of text to its base line, and from one line to the next.
+[[nodiscard]] double ascentOf(Face face, double points);
+[[nodiscard]] double lineHeightOf(Face face, double points);
+// The advance width of UTF-8 text without kerning; a character outside ASCII counts as a "?".
+[[nodiscard]] double textWidth(Face face, std::string_view text, double points);
+
+}  // namespace ordwise

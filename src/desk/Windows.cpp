@@ -1,0 +1,70 @@
+#include "Windows.hpp"
+
+#include "Platform.hpp"
+
+namespace ordwise {
+
+MainWindow frmMain;
+PaperWindow frmPaper;
+Platform platform;
+
+Control& PaperWindow::box(int number) {
+    Control* const boxes[] = {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6};
+    if (number < 1 || number > 6) raise(FaultNumber::Subscript);
+    return *boxes[number - 1];
+}
+
+ComboControl& PaperWindow::combo(int number) {
+    ComboControl* const combos[] = {&Combo1, &Combo2, &Combo3};
+    if (number < 1 || number > 3) raise(FaultNumber::Subscript);
+    return *combos[number - 1];
+}
+
+MainWindow::MainWindow() {
+    // clang-format off
+    Toolbar1[buttonNew]      = {"new",      "New Problem", "new", true};
+    Toolbar1[buttonSave]     = {"save",     "Save Problem", "save", false};
+    Toolbar1[buttonOpen]     = {"open",     "Load Problem", "open", true};
+    Toolbar1[buttonPrint]    = {"print",    "Print", "print", false};
+    Toolbar1[buttonPractice] = {"practice", "Practice Test", "practice", true};
+    Toolbar1[buttonGraph]    = {"graph",    "Graph", "graph", false};
+    Toolbar1[buttonSolve]    = {"solve",    "Solve!", "solve", false};
+    Toolbar1[buttonExample]  = {"example",  "Example", "example", false};
+    Toolbar1[buttonClear]    = {"clear",    "Erase", "clear", false};
+    Toolbar1[buttonRoot]     = {"root",     "Insert Root", "root", false};
+    Toolbar1[buttonPower]    = {"power",    "Insert Exponent", "power", false};
+    Toolbar1[buttonFracdec]  = {"fracdec",  "Convert Between Fraction and Decimal Format", "fracdec", true};
+    Toolbar1[buttonWeb]      = {"web",      "Halvern on the Web", "web", true};
+
+    mnuFile.Text = "&File";                  mnuNew.Text = "&New Problem";
+    mnuPrint.Text = "&Print";                mnuPrintSetup.Text = "P&rint Setup";
+    mnuSave.Text = "Save Problem";           mnuLoad.Text = "Load Problem";
+    mnuExit.Text = "&Exit";
+    mnuCreate.Text = "&Tools";               mnuSolve.Text = "&Solve!";
+    mnuExample.Text = "E&xample Problem";    mnuErase.Text = "Erase &Problem";
+    mnuGraph.Text = "Create &Graph";         mnuPracticeTest.Text = "Practice &Test";
+    mnuExp.Text = "&Explanation";
+    mnuSpecial.Text = "&Functions";          mnuSquareRoot.Text = "Square &Root";
+    mnuExponet.Text = "&Exponent (^)";       mnuAbsValue.Text = "Absolute &Value (|)";
+    mnuAddition.Text = "&Add (+)";           mnuSubtraction.Text = "&Subtract (-)";
+    mnuMultiplication.Text = "&Multiply (*)"; mnuDivision.Text = "&Divide (/)";
+    mnuConvertDF.Text = "&Fraction/Decimal Conversion";
+    mnuOptions.Text = "&Options";            mnuPencil.Text = "Use &Pencil";
+    mnuShowStep.Text = "&Show Step-By-Step"; mnuHideWiz.Text = "Show &Wiz Assistant";
+    mnuShowLight.Text = "Show &Guided Input Light";
+    mnuChange.Text = "Se&ttings";
+    // clang-format on
+    for (Control* menu :
+         {&mnuPrint, &mnuPrintSetup, &mnuSave, &mnuSolve, &mnuExample, &mnuErase, &mnuGraph, &mnuExp, &mnuSquareRoot,
+          &mnuExponet, &mnuAbsValue, &mnuAddition, &mnuSubtraction, &mnuMultiplication, &mnuDivision}) {
+        menu->Enabled = false;
+    }
+    for (Control* menu : {&mnuPencil, &mnuShowStep, &mnuHideWiz, &mnuShowLight}) menu->Checked = true;
+}
+
+void ResetWindows() {
+    frmMain = MainWindow{};
+    frmPaper = PaperWindow{};
+}
+
+}  // namespace ordwise

@@ -1,0 +1,126 @@
+// The windows as plain data: fields and first values, no behaviour. The routines that read and
+// write them live in the layers to the right; the desktop makes one widget of each control and
+// shows what changed after each event, the terminal reads the same fields.
+//
+// A window and its controls carry the names by which the routines know them. Places are in points
+// of the sheet (frmPaper) or of the window. A control that no routine moves keeps its first place.
+#pragma once
+
+#include "BoundedArray.hpp"
+#include "DrawingSurface.hpp"
+#include "Int16.hpp"
+
+#include <string>
+#include <vector>
+
+namespace ordwise {
+
+struct Control {
+    std::string Text;   // what a box holds, a caption says or a list shows
+    std::string Image;  // image key of a picture or button, e.g. "light1"
+    std::string ToolTip;
+    double Left = 0;
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+    bool Visible = true;
+    bool Enabled = true;
+    bool Checked = false;
+};
+
+struct ComboControl : Control {
+    std::vector<std::string> List;
+    int ListIndex = 0;
+};
+
+struct TimerControl {
+    bool Enabled = false;
+    int Interval = 0;  // milliseconds
+};
+
+// One sheet of paper: a picture surface with its Next Step button and its title.
+struct Sheet : DrawingSurface {
+    double Left = 0;
+    double Top = 0;
+    double Width = 800;
+    double Height = 657;
+    bool Visible = false;
+    int Order = 0;  // sheets with a higher number lie in front
+    Control blinker;
+    Control Label6;  // the title of the sheet
+};
+
+struct PaperWindow {
+    static constexpr int lastSheet = 9;
+
+    bool Loaded = false;
+    BoundedArray<Sheet, lastSheet> Paper;
+    int FrontOrder = 0;  // the highest Order given so far
+    Control Label7;      // the date, on the first sheet
+    Control Light;
+    Control Pencil;
+    Control deskPencil;
+    Control Wizard;
+    Control Click;  // the signal beside the assistant
+    Control Picture3;
+    Control Text1, Text2, Text3, Text4, Text5, Text6;
+    Control Label1, Label2, Label3, Label4, Label5, Label8;
+    ComboControl Combo1, Combo2, Combo3;
+    TimerControl Timer1{false, 10};    // the pencil
+    TimerControl Timer2{false, 400};   // the blink of Next Step
+    TimerControl clickMe{false, 800};  // the blink of the assistant's signal
+    TimerControl wizIn{false, 10};
+    TimerControl WizOut{false, 10};
+
+    // Text1 to Text6 and Combo1 to Combo3 by number; fault 9 for a number outside.
+    [[nodiscard]] Control& box(int number);
+    [[nodiscard]] ComboControl& combo(int number);
+};
+
+struct ToolbarButton {
+    std::string Key;
+    std::string ToolTip;
+    std::string Image;
+    bool Enabled = true;
+};
+
+struct MainWindow {
+    std::string Caption = "Ordwise";
+    int MousePointer = 0;
+    std::string StatusText;
+
+    // Indices of the toolbar's buttons; the numbers between them are separators and are free.
+    enum Button {
+        buttonNew = 1,
+        buttonSave = 3,
+        buttonOpen = 4,
+        buttonPrint = 5,
+        buttonPractice = 7,
+        buttonGraph = 8,
+        buttonSolve = 10,
+        buttonExample = 11,
+        buttonClear = 12,
+        buttonRoot = 14,
+        buttonPower = 15,
+        buttonFracdec = 18,
+        buttonWeb = 20
+    };
+    BoundedArray<ToolbarButton, 20> Toolbar1;
+
+    Control mnuFile, mnuNew, mnuPrint, mnuPrintSetup, mnuSave, mnuLoad, mnuExit;
+    Control mnuCreate, mnuSolve, mnuExample, mnuErase, mnuGraph, mnuPracticeTest, mnuExp;
+    Control mnuSpecial, mnuSquareRoot, mnuExponet, mnuAbsValue, mnuAddition, mnuSubtraction, mnuMultiplication,
+        mnuDivision, mnuConvertDF;
+    Control mnuOptions, mnuPencil, mnuShowStep, mnuHideWiz, mnuShowLight, mnuChange;
+
+    // As the program starts: captions, keys, tool tips, and nothing to solve or print yet.
+    MainWindow();
+};
+
+extern MainWindow frmMain;
+extern PaperWindow frmPaper;
+
+// Windows as a freshly started program has them.
+void ResetWindows();
+
+}  // namespace ordwise

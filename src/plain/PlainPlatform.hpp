@@ -1,0 +1,79 @@
+// The outside without a window: message boxes are kept, input boxes are answered from a list, the
+// clock stands still. The terminal program and the tests run on it.
+#pragma once
+
+#include "Platform.hpp"
+
+#include <deque>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace ordwise {
+
+struct ShownMessage {
+    std::string caption;
+    std::string text;
+    bool operator==(const ShownMessage&) const = default;
+};
+
+struct ShownPrompt {
+    std::string caption;
+    std::string text;
+    std::string answer;
+    bool operator==(const ShownPrompt&) const = default;
+};
+
+// An input box was opened and the answers were used up. It ends the run: a question that nobody
+// answers would be asked without end.
+class NoAnswerLeft : public std::runtime_error {
+public:
+    explicit NoAnswerLeft(const std::string& prompt) : std::runtime_error(prompt) {}
+};
+
+class PlainDialogs : public Dialogs {
+public:
+    std::vector<ShownMessage> messages;
+    std::vector<ShownPrompt> prompts;
+    std::deque<std::string> answers;
+    MessageAnswer nextAnswer = MessageAnswer::Ok;
+
+    MessageAnswer messageBox(std::string_view text, std::string_view caption, MessageButtons buttons) override;
+    std::string inputBox(std::string_view prompt, std::string_view caption) override;
+};
+
+// Keeps the names of the windows that were asked for, "+frmGraph" shown and "-frmGraph" unloaded.
+class PlainWindows : public WindowOpener {
+public:
+    std::vector<std::string> requests;
+
+    void show(std::string_view name) override { requests.push_back("+" + std::string(name)); }
+    void unload(std::string_view name) override { requests.push_back("-" + std::string(name)); }
+};
+
+class PlainClock : public Clock {
+public:
+    int mmss = 0;
+    std::string date;
+
+    [[nodiscard]] int minuteAndSecond() const override { return mmss; }
+    [[nodiscard]] std::string today() const override { return date; }
+};
+
+// The three together; makes itself the platform of the process for as long as it lives.
+class PlainPlatform {
+public:
+    PlainPlatform();
+    ~PlainPlatform();
+    PlainPlatform(const PlainPlatform&) = delete;
+    PlainPlatform& operator=(const PlainPlatform&) = delete;
+
+    PlainDialogs dialogs;
+    PlainWindows windows;
+    PlainClock clock;
+
+private:
+    Platform before_;
+};
+
+}  // namespace ordwise

@@ -1,0 +1,48 @@
+// The worksheet's variant: a pile of up to ten sheets.
+#include "StepDisplay.hpp"
+#include "Windows.hpp"
+#include "Workspace.hpp"
+#include "basFPrint.hpp"
+
+#include "NumberText.hpp"
+#include "Platform.hpp"
+
+namespace ordwise {
+namespace {
+
+// Opens the sheet behind the current one, a little lower and to the right, and brings it to the
+// front. The eleventh sheet is fault 9; the current sheet then stays the tenth.
+DrawingSurface& nextSheet(bool afterBreak) {
+    Sheet& old = frmPaper.Paper[ws.CurrentSheet];
+    Sheet& sheet = frmPaper.Paper[ws.CurrentSheet + 1];
+    ws.CurrentSheet += 1;
+    old.blinker.Visible = false;
+    sheet.CurrentY = afterBreak ? sheetTopAfterBreak : sheetTopY;
+    sheet.CurrentX = 0;
+    sheet.Left = old.Left + 25;
+    sheet.Top = old.Top + 25;
+    sheet.Width = 800;
+    sheet.Height = 657;
+    sheet.Visible = true;
+    sheet.Order = ++frmPaper.FrontOrder;
+    sheet.Label6.Text = ws.TopicName + " (Page " + textOf(ws.CurrentSheet + 1) + ")";
+    return sheet;
+}
+
+}  // namespace
+
+void PrintMathLine(std::string_view line, bool placeButton) {
+    try {
+        MathLineRenderer renderer(frmPaper.Paper[ws.CurrentSheet], worksheetOffsets, black, nextSheet);
+        renderer.line(line);
+        ws.LineEndX = renderer.lineEndX();
+        ws.LineEndY = renderer.lineEndY();
+        ws.LineEndsInFraction = renderer.endsInFraction();
+        if (renderer.denominatorEndX() > 0) ws.DenominatorEndX = longOf(renderer.denominatorEndX());
+        if (placeButton) PlaceNextStep();
+    } catch (const RunTimeFault&) {
+        platform.dialogs->messageBox("An error occurred while displaying information.", "Ordwise", MessageButtons::Ok);
+    }
+}
+
+}  // namespace ordwise
