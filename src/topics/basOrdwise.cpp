@@ -1,0 +1,23 @@
+#include "basOrdwise.hpp"
+
+#include "Windows.hpp"
+
+#include <utility>
+
+namespace ordwise {
+
+void AddStep(std::string line, std::string note) {
+    ws.StepLines[ws.StepCount] = std::move(line);
+    ws.StepNotes[ws.StepCount] = std::move(note);
+    ws.StepCount += 1;
+}
+
+double rounded(double x) {
+    return Round(x, ws.RoundPlaces);
+}
+
+void startLinesAt(double y) {
+    frmPaper.Paper[0].CurrentY = y;
+}
+
+}  // namespace ordwise
