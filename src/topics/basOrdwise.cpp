@@ -1,5 +1,6 @@
 #include "basOrdwise.hpp"
 
+#include "StepDisplay.hpp"
 #include "Windows.hpp"
 
 #include <utility>
@@ -10,6 +11,11 @@ void AddStep(std::string line, std::string note) {
     ws.StepLines[ws.StepCount] = std::move(line);
     ws.StepNotes[ws.StepCount] = std::move(note);
     ws.StepCount += 1;
+}
+
+void complain(std::string line, std::string note) {
+    AddStep(std::move(line), std::move(note));
+    ShowSteps();
 }
 
 double rounded(double x) {

@@ -35,6 +35,10 @@ template <class... Pieces>
 // Records a step: the line that the student copies and the note that says why. Fault 9 at step 201.
 void AddStep(std::string line, std::string note = "");
 
+// Ends a solution that mathematics forbids: the complaint is the last step, and all is shown.
+// e.g. complain("Division by 0 is not allowed.", "It is impossible to divide any number by 0.");
+void complain(std::string line, std::string note);
+
 // x rounded to RoundPlaces, as results are shown.
 [[nodiscard]] double rounded(double x);
 
