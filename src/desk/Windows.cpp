@@ -62,6 +62,11 @@ MainWindow::MainWindow() {
     for (Control* menu : {&mnuPencil, &mnuShowStep, &mnuHideWiz, &mnuShowLight}) menu->Checked = true;
 }
 
+void setSolveEnabled(bool enabled) {
+    frmMain.Toolbar1[MainWindow::buttonSolve].Enabled = enabled;
+    frmMain.mnuSolve.Enabled = enabled;
+}
+
 void ResetWindows() {
     frmMain = MainWindow{};
     frmPaper = PaperWindow{};

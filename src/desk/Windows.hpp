@@ -120,6 +120,9 @@ struct MainWindow {
 extern MainWindow frmMain;
 extern PaperWindow frmPaper;
 
+// Solve can be asked for or not: the toolbar button and the menu command go together.
+void setSolveEnabled(bool enabled);
+
 // Windows as a freshly started program has them.
 void ResetWindows();
 
