@@ -3,6 +3,7 @@
 #include "Fault.hpp"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -65,28 +66,6 @@ std::string write(double value, int significant) {
     return (number.negative ? "-" : "") + (plain ? plainForm(number) : exponentForm(number));
 }
 
-double roundDigits(double value, int places, int significant) {
-    Decimal number = decimalOf(value, significant);
-    // How many of the digits stay; the first digit stands `exponent` places left of the point.
-    const int kept = number.exponent + 1 + places;
-    const int count = static_cast<int>(number.digits.size());
-    if (kept >= count) return value;
-    if (kept < 0) return 0.0;
-    const std::string rest = number.digits.substr(static_cast<std::size_t>(kept));
-    number.digits.resize(static_cast<std::size_t>(kept));
-    const bool odd = kept > 0 && (number.digits.back() - '0') % 2 == 1;
-    const bool up = rest[0] > '5' || (rest[0] == '5' && (rest.size() > 1 || odd));
-    std::string whole = "0" + number.digits;
-    if (up) {
-        std::size_t i = whole.size() - 1;
-        while (whole[i] == '9') whole[i--] = '0';
-        ++whole[i];
-    }
-    const std::string text = (number.negative ? "-" : "") + whole + "e" + std::to_string(-places);
-    const double result = std::strtod(text.c_str(), nullptr);
-    return result == 0.0 ? 0.0 : result;
-}
-
 // The length of the longest beginning of `text`, from `start` on, that spells a number; 0 if none.
 std::size_t numberLength(std::string_view text, std::size_t start) {
     const auto digit = [&](std::size_t i) { return i < text.size() && text[i] >= '0' && text[i] <= '9'; };
@@ -111,6 +90,54 @@ std::size_t numberLength(std::string_view text, std::size_t start) {
         }
     }
     return i - start;
+}
+
+// For a number beyond the range of a double: whether it is one of the large ones. What decides is the
+// power of ten of its first digit that is not zero.
+bool isLarge(std::string_view number) {
+    constexpr int most = 100000;
+    const std::size_t e = std::min(number.find_first_of("eE"), number.size());
+    int exponent = 0;
+    for (std::size_t i = e; i < number.size(); ++i) {
+        if (number[i] >= '0' && number[i] <= '9') exponent = std::min(exponent * 10 + (number[i] - '0'), most);
+    }
+    if (e + 1 < number.size() && number[e + 1] == '-') exponent = -exponent;
+    const auto point = static_cast<int>(std::min(number.find('.'), e));
+    const auto first = static_cast<int>(number.find_first_of("123456789"));
+    return exponent + point - first > 0;
+}
+
+// The double of text that numberLength has measured. Not strtod, which would read the point of the
+// user's locale. Fault 6 beyond the range; what is too small is 0.
+double read(std::string_view number) {
+    if (number.front() == '+') number.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
+    if (result.ec != std::errc::result_out_of_range) return value;
+    if (isLarge(number)) raise(FaultNumber::Overflow);
+    return 0.0;
+}
+
+double roundDigits(double value, int places, int significant) {
+    Decimal number = decimalOf(value, significant);
+    // How many of the digits stay; the first digit stands `exponent` places left of the point.
+    const int kept = number.exponent + 1 + places;
+    if (kept >= significant) return value;
+    if (kept < 0) return 0.0;
+    number.digits.resize(std::max(number.digits.size(), static_cast<std::size_t>(kept)), '0');
+    const std::string rest = number.digits.substr(static_cast<std::size_t>(kept));
+    number.digits.resize(static_cast<std::size_t>(kept));
+    const bool odd = kept > 0 && (number.digits.back() - '0') % 2 == 1;
+    const bool up = rest > "5" || (rest == "5" && odd);
+    std::string whole = "0" + number.digits;
+    if (up) {
+        std::size_t i = whole.size() - 1;
+        while (whole[i] == '9') whole[i--] = '0';
+        ++whole[i];
+    }
+    const std::string text = (number.negative ? "-" : "") + whole + "e" + std::to_string(-places);
+    const double result = read(text);
+    return result == 0.0 ? 0.0 : result;
 }
 
 std::string_view withoutBlanks(std::string_view text) {
@@ -148,7 +175,7 @@ bool IsNumeric(std::string_view text) {
 
 double valueOf(std::string_view text) {
     if (!IsNumeric(text)) raise(FaultNumber::TypeMismatch);
-    return inRange(std::strtod(std::string(withoutBlanks(text)).c_str(), nullptr));
+    return read(withoutBlanks(text));
 }
 
 std::int32_t longOf(std::string_view text) {
@@ -166,7 +193,7 @@ double lenientValueOf(std::string_view text) {
     if (first == std::string_view::npos) return 0.0;
     const std::size_t length = numberLength(text, first);
     if (length == 0) return 0.0;
-    return inRange(std::strtod(std::string(text.substr(first, length)).c_str(), nullptr));
+    return read(text.substr(first, length));
 }
 
 double Round(double value, int places) {

@@ -1,0 +1,93 @@
+// Counters, arrays and faults: a limit must be felt exactly where it stands, not one before or after.
+#include "BoundedArray.hpp"
+#include "Fault.hpp"
+#include "FaultOf.hpp"
+#include "Int16.hpp"
+#include "SlotArray.hpp"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+
+namespace ordwise {
+namespace {
+
+TEST(Int16, HoldsItsEndsAndFaultsBeyondThem) {
+    Int16 counter = 32766;
+    ++counter;
+    EXPECT_EQ(counter, 32767);
+    EXPECT_EQ(faultOf([&] { ++counter; }), 6);
+    EXPECT_EQ(faultOf([&] { counter++; }), 6);
+    EXPECT_EQ(faultOf([&] { counter += 1; }), 6);
+    EXPECT_EQ(faultOf([&] { counter = counter + 1; }), 6);
+    EXPECT_EQ(counter, 32767) << "a faulted store leaves the value";
+
+    counter = -32768;
+    EXPECT_EQ(faultOf([&] { --counter; }), 6);
+    EXPECT_EQ(faultOf([&] { counter = -counter; }), 6);
+    EXPECT_EQ(counter, -32768);
+}
+
+TEST(Int16, ComputesBetweenStoresInFullWidth) {
+    const Int16 a = 30000;
+    const Int16 b = 30000;
+    EXPECT_EQ(a + b - b, 30000);
+    Int16 c = 5;
+    EXPECT_EQ(c++, 5);
+    EXPECT_EQ(c--, 6);
+    EXPECT_EQ(c, 5);
+}
+
+TEST(BoundedArray, HasBothItsBounds) {
+    BoundedArray<std::string, 200> lines;
+    lines[0] = "first";
+    lines[200] = "last";
+    EXPECT_EQ(lines[0] + lines[200], "firstlast");
+    EXPECT_EQ(faultOf([&] { lines[201] = "x"; }), 9);
+    EXPECT_EQ(faultOf([&] { lines[-1] = "x"; }), 9);
+    const auto& fixed = lines;
+    EXPECT_EQ(faultOf([&] { (void)fixed[201]; }), 9);
+    lines.fill("");
+    EXPECT_EQ(lines[200], "");
+}
+
+TEST(SlotArray, IsEmptyWhereNothingWasWrittenAndFaultsOutside) {
+    SlotArray<std::string, 2000> tokens;
+    EXPECT_EQ(tokens[2000], "");
+    EXPECT_EQ(tokens.used(), 0) << "reading makes no slot";
+    tokens.set(2000, "x");
+    EXPECT_EQ(tokens[2000], "x");
+    EXPECT_EQ(tokens[1999], "");
+    EXPECT_EQ(faultOf([&] { (void)tokens[2001]; }), 9);
+    EXPECT_EQ(faultOf([&] { (void)tokens[-1]; }), 9);
+    EXPECT_EQ(faultOf([&] { tokens.set(2001, "y"); }), 9);
+}
+
+TEST(SlotArray, ClearsARangeAndEverything) {
+    SlotArray<std::string, 20> tokens;
+    for (int i = 0; i <= 10; ++i) tokens.set(i, std::to_string(i));
+    tokens.clear(3, 5);
+    EXPECT_EQ(tokens[2] + tokens[3] + tokens[5] + tokens[6], "26");
+    tokens.clear(9, 20);
+    EXPECT_EQ(tokens[8] + tokens[9] + tokens[10], "8");
+    tokens.clear(7, 6);
+    EXPECT_EQ(tokens[7], "7") << "from above to below is no range";
+    EXPECT_EQ(faultOf([&] { tokens.clear(9, 21); }), 9);
+
+    const SlotArray<std::string, 20> copy = tokens;
+    tokens.clear();
+    EXPECT_EQ(tokens.used(), 0);
+    EXPECT_EQ(copy[8], "8");
+}
+
+TEST(Fault, TakesThePlaceOfInfinities) {
+    EXPECT_EQ(divided(1, 4), 0.25);
+    EXPECT_EQ(faultOf([] { (void)divided(5, 0); }), 11);
+    EXPECT_EQ(faultOf([] { (void)divided(0, -0.0); }), 11);
+    EXPECT_EQ(faultOf([] { (void)divided(1e300, 1e-300); }), 6);
+    EXPECT_EQ(faultOf([] { (void)inRange(std::numeric_limits<double>::quiet_NaN()); }), 6);
+}
+
+}  // namespace
+}  // namespace ordwise
