@@ -22,6 +22,12 @@ double rounded(double x) {
     return Round(x, ws.RoundPlaces);
 }
 
+std::pair<std::string, std::string> halves(const std::string& both, char separator) {
+    const std::size_t at = both.find(separator);
+    if (at == std::string::npos) raise(FaultNumber::Subscript);
+    return {both.substr(0, at), both.substr(at + 1)};
+}
+
 void startLinesAt(double y) {
     frmPaper.Paper[0].CurrentY = y;
 }

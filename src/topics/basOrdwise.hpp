@@ -12,6 +12,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace ordwise {
 
@@ -41,6 +42,10 @@ void complain(std::string line, std::string note);
 
 // x rounded to RoundPlaces, as results are shown.
 [[nodiscard]] double rounded(double x);
+
+// The texts before and behind the first separator; fault 9 where there is none.
+// e.g. halves("3/4", '/') -> "3", "4"
+[[nodiscard]] std::pair<std::string, std::string> halves(const std::string& both, char separator);
 
 // Puts the pen of sheet 0 below the picture that the worksheet shows above the steps.
 inline constexpr double belowFigure = 335;   // a geometry figure
