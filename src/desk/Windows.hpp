@@ -3,7 +3,8 @@
 // shows what changed after each event, the terminal reads the same fields.
 //
 // A window and its controls carry the names by which the routines know them. Places are in points
-// of the sheet (frmPaper) or of the window. A control that no routine moves keeps its first place.
+// of the sheet (frmPaper) or of the window; what stands on a sheet or on Picture3 counts from its
+// corner. A control that no routine moves keeps its first place.
 #pragma once
 
 #include "BoundedArray.hpp"
@@ -26,6 +27,7 @@ struct Control {
     bool Visible = true;
     bool Enabled = true;
     bool Checked = false;
+    bool AlignRight = false;  // a caption that stands before its box ends at the box
 };
 
 struct ComboControl : Control {

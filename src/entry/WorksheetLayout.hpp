@@ -1,0 +1,54 @@
+// What the worksheet shows for each topic. The box topics, below 28, put their problem into boxes on
+// Picture3, which lies on the first sheet above the steps; from 28 on it is typed on the paper.
+//
+// Boxes, labels and lists count from the corner of Picture3; Combo3 alone lies on the sheet itself.
+#pragma once
+
+#include "Windows.hpp"
+
+#include <vector>
+
+namespace ordwise {
+
+inline constexpr int firstPaperTopic = 28;
+inline constexpr int metersTopic = 23;
+inline constexpr int gramsTopic = 24;
+inline constexpr int roundingTopic = 98;
+
+struct PlacedBox {
+    Control PaperWindow::*box;
+    double left;
+    double top;
+};
+
+struct PlacedLabel {
+    Control PaperWindow::*label;
+    double left;
+    double top;
+    const char* caption;
+};
+
+struct WorksheetLayout {
+    std::vector<int> types;  // the topics laid out so
+    const char* image;       // the figure in Picture3, or ""
+    std::vector<PlacedBox> boxes;
+    std::vector<PlacedLabel> labels;
+    // Of these boxes exactly one stays empty, the unknown; all other boxes want a number.
+    std::vector<Control PaperWindow::*> unknowns;
+};
+
+// The layout of a box topic; null for a topic of the paper or an unknown one.
+[[nodiscard]] const WorksheetLayout* layoutOf(int problemType);
+
+// Lays out frmPaper for ProblemType, empty and open for input, with the hint as the note to be
+// explained, and enables the commands that the topic can use.
+void Form_Load();
+// Clears input and engine as Erase does, without asking, and takes the worksheet off the desk.
+void Form_Unload();
+
+// Sheets, pencil and signals as on a fresh desk; sheet 0 empty with its pen at the top.
+void clearDesk();
+// No step in view yet: the note of ShownStep is the hint.
+void offerHint();
+
+}  // namespace ordwise
