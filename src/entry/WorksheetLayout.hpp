@@ -4,13 +4,13 @@
 // Boxes, labels and lists count from the corner of Picture3; Combo3 alone lies on the sheet itself.
 #pragma once
 
+#include "Catalogue.hpp"
 #include "Windows.hpp"
 
 #include <vector>
 
 namespace ordwise {
 
-inline constexpr int firstPaperTopic = 28;
 inline constexpr int metersTopic = 23;
 inline constexpr int gramsTopic = 24;
 inline constexpr int roundingTopic = 98;
