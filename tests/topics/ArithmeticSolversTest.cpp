@@ -1,0 +1,181 @@
+#include "ArithmeticSolvers.hpp"
+
+#include "FaultOf.hpp"
+#include "NumberText.hpp"
+#include "TopicSolution.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace ordwise::test {
+namespace {
+
+TEST(ExpandedNotation, namesEveryDigitAlsoTheZeros) {
+    EXPECT_EQ(solutionOf([] { ExpandedNotation("205"); }), R"(
+205
+2 hundreds, 0 tens, 5 ones
+    205 in expanded notation.
+)");
+    EXPECT_EQ(answerOf([] { ExpandedNotation("0011"); }), "1 ten, 1 one");
+}
+
+TEST(ExpandedNotation, breaksALongNumberBelowTheHundredThousands) {
+    const auto nine = stepsOf([] { ExpandedNotation("234567892"); });
+    ASSERT_EQ(nine.size(), 3u);
+    EXPECT_EQ(nine[1].line, "2 hundred millions, 3 ten millions, 4 millions, 5 hundred thousands, ");
+    EXPECT_EQ(nine[2].line, "6 ten thousands, 7 thousands, 8 hundreds, 9 tens, 2 ones");
+    EXPECT_EQ(nine[2].note, nine[1].note);
+
+    const auto ten = stepsOf([] { ExpandedNotation("1111111111"); });
+    ASSERT_EQ(ten.size(), 3u);
+    EXPECT_EQ(ten[1].line, "1 billion, 1 hundred million, 1 ten million, 1 million, 1 hundred thousand, ");
+
+    // The line is full once it has 61 characters.
+    EXPECT_EQ(answerOf([] { ExpandedNotation("111111"); }), "1 one");
+    EXPECT_EQ(stepsOf([] { ExpandedNotation("99999"); }).size(), 2u);
+}
+
+TEST(RoundWhole, showsTheDigitThatIsRounded) {
+    EXPECT_EQ(solutionOf([] { RoundWhole("1250", "100"); }), R"(
+1250
+1250 rounded to the nearest hundred:
+    Find the hundred position in the number and round.
+1300
+    1250 rounded to the nearest hundred is 1300.
+)");
+    EXPECT_EQ(solutionOf([] { RoundWhole("4", "10"); }), R"(
+4
+4 rounded to the nearest ten:
+    If a number is 5 or greater, it rounds up.  If it is less than 5, it rounds down.
+0
+    4 rounded to the nearest ten is 0.
+)");
+}
+
+TEST(RoundWhole, decidesByTheNextDigit) {
+    const auto rounds = [](const char* number, const char* unit) {
+        return answerOf([&] { RoundWhole(number, unit); });
+    };
+    EXPECT_EQ(rounds("5", "10"), "10");
+    EXPECT_EQ(rounds("10", "10"), "10");
+    EXPECT_EQ(rounds("995", "100"), "1000");
+    EXPECT_EQ(rounds("-1250", "100"), "-1100");
+    EXPECT_EQ(rounds("149.5", "100"), "200");  // 150 first, since halves of a number go to the even digit
+    EXPECT_EQ(rounds("4.99", "10"), "0");
+    EXPECT_EQ(rounds("500", "1000"), "1000");
+}
+
+TEST(RoundWhole, agreesWithArithmeticOnEveryNumberThatCanBeTyped) {
+    for (int n = 0; n < 10000000; n = n < 3000 ? n + 1 : n + 7919) {
+        for (const int unit : {10, 100, 1000}) {
+            const std::string expected = textOf((n + unit / 2) / unit * unit);
+            ASSERT_EQ(answerOf([&] { RoundWhole(textOf(n), textOf(unit)); }), expected) << n << " to " << unit;
+        }
+    }
+}
+
+TEST(RoundDecimal, roundsAHalfUpAndWritesEveryDecimal) {
+    EXPECT_EQ(solutionOf([] { RoundDecimal("2.45", "tenth", "1"); }), R"(
+2.45
+2.45 rounded to the nearest tenth:
+    If a number is 5 or greater, it rounds up.  If it is less than 5, it rounds down.
+2.5
+    Round to the nearest tenth (one digit after the decimal point).
+)");
+    const auto rounds = [](const char* number, const char* name, const char* places) {
+        return answerOf([&] { RoundDecimal(number, name, places); });
+    };
+    EXPECT_EQ(rounds("2.5", "whole number", "0"), "3");
+    EXPECT_EQ(rounds("7.", "whole number", "0"), "7");
+    EXPECT_EQ(rounds("2.5", "hundredth", "2"), "2.50");
+    EXPECT_EQ(rounds("0.125", "hundredth", "2"), ".13");
+    EXPECT_EQ(rounds("0", "hundredth", "2"), ".00");
+    EXPECT_EQ(rounds("-.5", "tenth", "1"), "-.5");
+    EXPECT_EQ(rounds("9.9996", "thousandth", "3"), "10.000");
+    EXPECT_EQ(rounds("1.5", "furlong", "1"), "1.5 rounded to the nearest furlong:");
+}
+
+TEST(RoundDecimal, agreesWithArithmeticOnTwoDecimals) {
+    for (int hundredths = 0; hundredths < 100000; hundredths += 37) {
+        char number[20];
+        std::snprintf(number, sizeof number, "%d.%02d", hundredths / 100, hundredths % 100);
+        const std::string whole = textOf((hundredths + 50) / 100);
+        const int tenths = (hundredths + 5) / 10;
+        const std::string tenth = (tenths < 10 ? "" : textOf(tenths / 10)) + "." + textOf(tenths % 10);
+        ASSERT_EQ(answerOf([&] { RoundDecimal(number, "whole number", "0"); }), whole) << number;
+        ASSERT_EQ(answerOf([&] { RoundDecimal(number, "tenth", "1"); }), tenth) << number;
+    }
+}
+
+TEST(Rounding, keepsTheStepsBeforeTextThatIsNoNumber) {
+    for (const char* number : {".", "|5|"}) {
+        EXPECT_EQ(faultOf([&] { stepsOf([&] { RoundWhole(number, "10"); }); }), 13);
+        EXPECT_EQ(ws.StepCount, 2);
+        EXPECT_EQ(faultOf([&] { stepsOf([&] { RoundDecimal(number, "tenth", "1"); }); }), 13);
+        EXPECT_EQ(ws.StepCount, 3);
+    }
+}
+
+TEST(CompareNumbers, saysWhichOneStandsFurtherLeft) {
+    EXPECT_EQ(solutionOf([] { CompareNumbers(-3, 4); }), R"(
+-3 ? 4
+-3 < 4
+    -3 is less than 4 because -3 appears further left on a number line than 4.
+)");
+    EXPECT_EQ(answerOf([] { CompareNumbers(7, 4); }), "7 > 4");
+    EXPECT_EQ(solutionOf([] { CompareNumbers(0, -0.0); }), R"(
+0 ? 0
+0 = 0
+    0 equals 0 because they both appear at the same location on a number line.
+)");
+}
+
+// The labels of the number line as "text@x", and the places of its ticks but that of zero.
+struct NumberLine {
+    std::vector<std::string> labels;
+    std::vector<double> ticks;
+    bool operator==(const NumberLine&) const = default;
+};
+
+NumberLine numberLineOf(double a, double b) {
+    ResetWindows();
+    DrawNumberLine(a, b);
+    NumberLine drawn;
+    for (const DrawOperation& operation : frmPaper.Paper[0].drawn()) {
+        if (const auto* glyphs = std::get_if<Glyphs>(&operation)) {
+            EXPECT_EQ(glyphs->y, 158);
+            drawn.labels.push_back(glyphs->text + "@" + textOf(glyphs->x));
+        } else if (const auto* stroke = std::get_if<Stroke>(&operation)) {
+            EXPECT_EQ(stroke->width, 2);
+            if (stroke->x1 == stroke->x2 && stroke->x1 != 350) drawn.ticks.push_back(stroke->x1);
+        }
+    }
+    return drawn;
+}
+
+TEST(NumberLine, showsOrderAndSideOfZero) {
+    const std::vector<double> both{250, 450};
+    const std::vector<double> oneSide{217, 284, 417, 484};
+    EXPECT_EQ(numberLineOf(4, -3), (NumberLine{{"0@345", "-3@244", "4@451"}, both}));
+    EXPECT_EQ(numberLineOf(-1, -20), (NumberLine{{"0@345", "-20@204", "-1@278"}, oneSide}));
+    EXPECT_EQ(numberLineOf(5, 12), (NumberLine{{"0@345", "5@418", "12@478"}, oneSide}));
+    EXPECT_EQ(numberLineOf(0, 7), (NumberLine{{"0@345", "7@451"}, both}));
+    EXPECT_EQ(numberLineOf(6, 6), (NumberLine{{"0@345", "6@451"}, both}));
+    EXPECT_EQ(numberLineOf(-6, -6), (NumberLine{{"0@345", "-6@244"}, both}));
+    EXPECT_EQ(numberLineOf(0, 0), (NumberLine{{"0@345"}, both}));
+}
+
+TEST(NumberLine, leavesThePenBelowItself) {
+    ResetWindows();
+    Sheet& sheet = frmPaper.Paper[0];
+    sheet.CurrentX = 12;
+    sheet.CurrentY = 100;
+    DrawNumberLine(1, 2);
+    EXPECT_EQ(sheet.CurrentX, 12);
+    EXPECT_EQ(sheet.CurrentY, 146);
+    EXPECT_EQ(sheet.DrawWidth, 1);
+}
+
+}  // namespace
+}  // namespace ordwise::test
