@@ -7,6 +7,7 @@
 // exist (a division by zero, the root of a negative number) is undefined and equals nothing.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <optional>
@@ -39,6 +40,8 @@ public:
     [[nodiscard]] long double approximate() const { return approximate_; }
     // The value as one rational number, where it is one exactly.
     [[nodiscard]] std::optional<Rational> asRational() const;
+    // How many terms it is written with: one for a plain number (0 too), one for each root.
+    [[nodiscard]] std::size_t termCount() const { return parts_.empty() ? 1 : parts_.size(); }
     [[nodiscard]] std::string toString() const;  // for messages, e.g. "7/2", "1/2+3~2~", "undefined"
 
     friend ExactValue operator+(const ExactValue& a, const ExactValue& b);

@@ -1,0 +1,241 @@
+// What must be true of every solution of the engine.
+#include "EngineChecks.hpp"
+
+#include "MarkupValue.hpp"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <optional>
+#include <set>
+
+namespace ordwise::test {
+
+namespace {
+
+constexpr long double singlePrecision = 2e-5L;
+
+bool isDigit(char c) {
+    return std::isdigit(static_cast<unsigned char>(c)) != 0;
+}
+
+// True where a line holds a number that a single cannot hold exactly.
+bool beyondSingle(std::string_view line) {
+    int run = 0;
+    for (const char c : line) {
+        run = isDigit(c) ? run + 1 : 0;
+        if (run > 6 || c == 'E') return true;
+    }
+    return false;
+}
+
+long double toleranceFor(std::string_view a, std::string_view b, long double least) {
+    return beyondSingle(a) || beyondSingle(b) ? std::max(least, singlePrecision) : least;
+}
+
+std::string beside(const std::string& a, const std::string& b) {
+    return a + "   then   " + b;
+}
+
+// The text of a reduced fraction as the program draws it.
+std::string drawn(const Rational& r) {
+    const std::string size = std::to_string(std::abs(r.numerator));
+    const std::string sign = r.numerator < 0 ? "-" : "";
+    return r.denominator == 1 ? sign + size : sign + "#" + size + "/" + std::to_string(r.denominator) + "#";
+}
+
+bool isSimplestNumber(const std::string& line) {
+    if (beyondSingle(line)) return valueOfMarkup(line).has_value();
+    const auto value = valueOfMarkup(line);
+    const auto r = value ? value->asRational() : std::nullopt;
+    return r && drawn(*r) == line;
+}
+
+// The terms of a sum, each with its sign; signs in raised text and parentheses separate nothing.
+std::vector<std::string> termsOf(const std::string& line) {
+    std::vector<std::string> terms;
+    int depth = 0;
+    bool raised = false;
+    for (const char c : line) {
+        if (c == '^') raised = !raised;
+        if (c == '(') ++depth;
+        if (c == ')') --depth;
+        const bool begins = (c == '+' || c == '-') && depth == 0 && !raised;
+        if (begins || terms.empty()) terms.emplace_back();
+        terms.back() += c;
+    }
+    return terms;
+}
+
+bool hasSquareFactor(long n) {
+    for (long i = 2; i * i <= n; ++i) {
+        if (n % (i * i) == 0) return true;
+    }
+    return n <= 1;
+}
+
+// The whole numbers between a pair of "~".
+std::vector<long> radicandsOf(const std::string& line) {
+    std::vector<long> radicands;
+    for (std::size_t at = line.find('~'); at != std::string::npos;) {
+        const std::size_t close = line.find('~', at + 1);
+        if (close == std::string::npos) break;
+        radicands.push_back(std::atol(line.substr(at + 1, close - at - 1).c_str()));
+        at = line.find('~', close + 1);
+    }
+    return radicands;
+}
+
+// A term taken apart: e.g. "-#3x^2^/4#" -> coefficient -3/4, letters "x^2^".
+struct Monomial {
+    std::string letters;
+    int degree = 0;
+    std::optional<Rational> coefficient;
+};
+
+Monomial monomialOf(const std::string& term) {
+    Monomial monomial;
+    std::size_t i = 0;
+    while (i < term.size()) {
+        if (std::islower(static_cast<unsigned char>(term[i])) == 0) {
+            ++i;
+            continue;
+        }
+        int exponent = 1;
+        monomial.letters += term[i++];
+        if (i < term.size() && term[i] == '^') {
+            const std::size_t close = term.find('^', i + 1);
+            exponent = std::atoi(term.substr(i + 1, close - i - 1).c_str());
+            monomial.letters += term.substr(i, close - i + 1);
+            i = close + 1;
+        }
+        monomial.degree += exponent;
+    }
+    Bindings ones;
+    for (const char letter : lettersOf(term)) ones[letter] = ExactValue(1);
+    const auto value = valueOfMarkup(term.front() == '+' ? term.substr(1) : term, ones);
+    if (value) monomial.coefficient = value->asRational();
+    return monomial;
+}
+
+// How the program draws a term, for a comparison with what it drew.
+std::string drawn(const Monomial& monomial, bool first) {
+    const Rational r = *monomial.coefficient;
+    const std::string size = std::to_string(std::abs(r.numerator));
+    std::string above = (size == "1" && !monomial.letters.empty() ? "" : size) + monomial.letters;
+    if (r.denominator != 1) above = "#" + above + "/" + std::to_string(r.denominator) + "#";
+    return (r.numerator < 0 ? "-" : (first ? "" : "+")) + above;
+}
+
+bool isPrime(long n) {
+    if (n < 2) return false;
+    for (long i = 2; i * i <= n; ++i) {
+        if (n % i == 0) return false;
+    }
+    return true;
+}
+
+std::vector<std::string> splitAt(const std::string& text, char separator) {
+    std::vector<std::string> pieces(1);
+    for (const char c : text) {
+        if (c == separator) {
+            pieces.emplace_back();
+        } else {
+            pieces.back() += c;
+        }
+    }
+    return pieces;
+}
+
+}  // namespace
+
+Complaints valueComplaints(const Solution& solution, long double tolerance) {
+    for (std::size_t i = 1; i < solution.steps.size(); ++i) {
+        const std::string& before = solution.steps[i - 1].line;
+        const std::string& line = solution.steps[i].line;
+        if (!sameExpression(before, line, toleranceFor(before, line, tolerance))) {
+            return {{"a line is not equal to the line before", beside(before, line)}};
+        }
+    }
+    return {};
+}
+
+Complaints equationComplaints(const Solution& solution) {
+    for (std::size_t i = 1; i < solution.steps.size(); ++i) {
+        const std::string& before = solution.steps[i - 1].line;
+        const std::string& line = solution.steps[i].line;
+        if (!sameEquation(before, line, toleranceFor(before, line, 0))) {
+            return {{"a line has other solutions than the line before", beside(before, line)}};
+        }
+    }
+    return {};
+}
+
+Complaints simplestNumberComplaints(const Solution& solution) {
+    if (isSimplestNumber(solution.last())) return {};
+    return {{"the last line is not a number in simplest form", solution.last()}};
+}
+
+Complaints simplestRootComplaints(const Solution& solution) {
+    const std::string& line = solution.last();
+    const auto value = valueOfMarkup(line);
+    if (!value || line.find('*') != std::string::npos) return {{"the last line is no sum of roots", line}};
+    const auto radicands = radicandsOf(line);
+    const bool square = std::any_of(radicands.begin(), radicands.end(), hasSquareFactor);
+    if (square) return {{"the last line has a square under a root", line}};
+    if (beyondSingle(line)) return {};
+    if (termsOf(line).size() != value->termCount()) return {{"the last line has like terms", line}};
+    return {};
+}
+
+Complaints primePowerComplaints(const Solution& solution) {
+    const std::string& line = solution.last();
+    if (line == "0" || line == "1") return {};
+    std::set<std::string> seen;
+    for (const auto& factor : splitAt(line, '*')) {
+        const std::string prime = factor.substr(0, factor.find('^'));
+        if (!isPrime(std::atol(prime.c_str()))) return {{"the last line has a factor that is no prime", line}};
+        if (!seen.insert(prime).second) return {{"the last line has a prime twice", line}};
+    }
+    return {};
+}
+
+Complaints simplestPolynomialComplaints(const Solution& solution) {
+    const std::string& line = solution.last();
+    if (line.find_first_of("()*[]|") != std::string::npos) return {{"the last line is not expanded", line}};
+    if (beyondSingle(line)) return {};
+    std::set<std::string> seen;
+    int degreeBefore = 0;
+    bool first = true;
+    for (const auto& term : termsOf(line)) {
+        const Monomial monomial = monomialOf(term);
+        if (!monomial.coefficient) return {{"the last line cannot be read", line}};
+        if (!seen.insert(monomial.letters).second) return {{"the last line has like terms", line}};
+        if (drawn(monomial, first) != term) return {{"a term of the last line is not in simplest form", line}};
+        if (!first && monomial.degree > degreeBefore) return {{"the last line is not in decreasing order", line}};
+        degreeBefore = monomial.degree;
+        first = false;
+    }
+    return {};
+}
+
+Complaints solvedEquationComplaints(const Solution& solution) {
+    const std::string& line = solution.last();
+    const std::size_t sign = line.find_first_of("=$");
+    if (sign == std::string::npos) return {{"the last line is no equation", line}};
+    const std::string left = line.substr(0, sign);
+    const std::string right = line.substr(sign + 1);
+    if (!isSimplestNumber(right)) return {{"the right side of the last line is not in simplest form", line}};
+    if (line[sign] == '=' && left.size() == 1 && std::islower(static_cast<unsigned char>(left.front())) != 0) return {};
+    if (!isSimplestNumber(left)) return {{"the last line is no solution", line}};
+    if ((line[sign] == '=') != (left == right)) return {{"the last line is not true", line}};
+    return {};
+}
+
+bool dividesByZero(const Solution& solution) {
+    if (solution.steps.empty()) return false;
+    const auto value = valueOfMarkup(solution.steps.front().line);
+    return value && !value->isDefined();
+}
+
+}  // namespace ordwise::test

@@ -1,0 +1,169 @@
+// What is true of any right solution, held against thousands of random problems of the engine.
+#include "EngineChecks.hpp"
+#include "EngineProblems.hpp"
+#include "MarkupValue.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace ordwise::test {
+namespace {
+
+constexpr std::uint64_t seed = 20260722;
+
+using Generator = Problem (*)(Draws&);
+using Check = Complaints (*)(const Solution&);
+
+void append(Complaints& all, const Complaints& more) {
+    all.insert(all.end(), more.begin(), more.end());
+}
+
+// A typed division by zero ends in its message box, and only that may stand in the way.
+Complaints arithmeticComplaints(const Problem& problem, const Solution& solution, Check simplest,
+                                long double tolerance = 0) {
+    Complaints found = commonComplaints(problem, solution);
+    if (dividesByZero(solution)) {
+        if (solution.messages == std::vector<std::string>{"Division by 0!"}) return {};
+        return {{"a division by zero passes", solution.last()}};
+    }
+    if (!solution.messages.empty() || solution.steps.empty()) return found;
+    append(found, valueComplaints(solution, tolerance));
+    append(found, simplest(solution));
+    return found;
+}
+
+void survey(const std::string& heading, Generator generate, Check simplest, int count) {
+    Survey book;
+    Draws draws(seed);
+    for (int i = 0; i < count; ++i) {
+        const Problem problem = generate(draws);
+        const Solution solution = solve(problem);
+        book.add(problem, solution, arithmeticComplaints(problem, solution, simplest));
+    }
+    book.report(heading);
+}
+
+TEST(EngineInvariant, ArithmeticIsRightLineByLine) {
+    survey("Fractions mode", arithmeticProblem, simplestNumberComplaints, 3000);
+}
+
+TEST(EngineInvariant, FractionArithmeticIsRightLineByLine) {
+    survey("Fractions mode", fractionProblem, simplestNumberComplaints, 3000);
+}
+
+TEST(EngineInvariant, ExponentsAreRightLineByLine) {
+    survey("Fractions mode", exponentProblem, simplestNumberComplaints, 1500);
+}
+
+TEST(EngineInvariant, ComplexArithmeticIsRightLineByLine) {
+    survey("Fractions mode", complexArithmeticProblem, simplestNumberComplaints, 1500);
+}
+
+TEST(EngineInvariant, AbsoluteValuesAreRightLineByLine) {
+    survey("Fractions mode", absoluteValueProblem, simplestNumberComplaints, 1500);
+}
+
+TEST(EngineInvariant, RootsAreRightLineByLine) {
+    survey("Fractions mode", rootProblem, simplestRootComplaints, 1500);
+}
+
+TEST(EngineInvariant, ExponentialNotationIsRightLineByLine) {
+    survey("Fractions mode", exponentialNotationProblem, primePowerComplaints, 1000);
+}
+
+TEST(EngineInvariant, PolynomialsAreRightLineByLine) {
+    survey("Fractions mode", polynomialProblem, simplestPolynomialComplaints, 2000);
+}
+
+TEST(EngineInvariant, NegativeExponentsAreRightLineByLine) {
+    const Check nothingMore = [](const Solution&) { return Complaints(); };
+    survey("Fractions mode", negativeExponentProblem, nothingMore, 1000);
+}
+
+// The rounding of each term and product is allowed for; sums are small, so a real fault stands out.
+TEST(EngineInvariant, DecimalsModeStaysWithinItsRounding) {
+    Survey book;
+    Draws draws(seed);
+    const Check oneNumber = [](const Solution& solution) {
+        const bool number = solution.last().find_first_of("#*(") == std::string::npos;
+        return number ? Complaints() : Complaints{{"the last line is no decimal number", solution.last()}};
+    };
+    for (int i = 0; i < 1500; ++i) {
+        Problem problem = arithmeticProblem(draws);
+        if (std::count(problem.typed.begin(), problem.typed.end(), '*') > 0) continue;
+        const int places = draws.between(2, 4);
+        problem.settings = {{"use_fraction", 0}, {"RoundVar", std::to_string(places)}};
+        const Solution solution = solve(problem);
+        const long double tolerance = places == 2 ? 0.03L : (places == 3 ? 0.003L : 0.0003L);
+        book.add(problem, solution, arithmeticComplaints(problem, solution, oneNumber, tolerance));
+    }
+    book.report("Decimals mode, sums");
+}
+
+TEST(EngineInvariant, EquationsKeepTheirSolutions) {
+    Survey book;
+    Draws draws(seed);
+    for (int i = 0; i < 2500; ++i) {
+        const Problem problem = equationProblem(draws);
+        const Solution solution = solve(problem);
+        Complaints found = commonComplaints(problem, solution);
+        if (found.empty()) append(found, equationComplaints(solution));
+        if (found.empty()) append(found, solvedEquationComplaints(solution));
+        book.add(problem, solution, found);
+    }
+    book.report("Equations");
+}
+
+TEST(EngineInvariant, LinesForTheGraphKeepTheirSolutions) {
+    Survey book;
+    Draws draws(seed);
+    for (int i = 0; i < 1500; ++i) {
+        const Problem problem = linearGraphProblem(draws);
+        const Solution solution = solve(problem);
+        Complaints found = commonComplaints(problem, solution);
+        if (found.empty()) append(found, equationComplaints(solution));
+        book.add(problem, solution, found);
+    }
+    book.report("Linear equations");
+}
+
+// The letters in the order in which they were typed, with the values answered.
+Bindings bindingsOf(const Problem& problem) {
+    Bindings bindings;
+    std::size_t next = 0;
+    for (const char c : problem.typed) {
+        if (c < 'a' || c > 'z' || bindings.count(c) > 0) continue;
+        const std::string& answer = problem.answers.at(next++);
+        const bool minus = answer.front() == '-';
+        const ExactValue value = *ExactValue::ofDecimal(answer.substr(minus ? 1 : 0));
+        bindings[c] = minus ? -value : value;
+    }
+    return bindings;
+}
+
+TEST(EngineInvariant, EvaluationGivesTheValueAtTheAnswers) {
+    Survey book;
+    Draws draws(seed);
+    for (int i = 0; i < 1500; ++i) {
+        const Problem problem = evaluationProblem(draws);
+        const Solution solution = solve(problem);
+        const Bindings bindings = bindingsOf(problem);
+        Complaints found = commonComplaints(problem, solution);
+        for (std::size_t s = 1; s < solution.steps.size() && found.empty(); ++s) {
+            const auto before = valueOfMarkup(solution.steps[s - 1].line, bindings);
+            const auto value = valueOfMarkup(solution.steps[s].line, bindings);
+            const bool right = before && value && same(*before, *value, before->approximate() > 9e5L ? 2e-5L : 0);
+            if (!right) {
+                found.push_back({"a line is not equal to the line before",
+                                 solution.steps[s - 1].line + "   then   " + solution.steps[s].line});
+            }
+        }
+        if (found.empty()) append(found, simplestNumberComplaints(solution));
+        book.add(problem, solution, found);
+    }
+    book.report("Evaluation");
+}
+
+}  // namespace
+}  // namespace ordwise::test

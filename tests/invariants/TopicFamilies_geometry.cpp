@@ -1,0 +1,235 @@
+// Figures: boxes on a picture, one formula each.
+#include "TopicFamilies.hpp"
+
+#include <cmath>
+#include <cstdlib>
+
+namespace ordwise::test {
+
+namespace {
+
+constexpr double fullPi = 3.1415926;
+
+double roundedPi(int places) {
+    const double unit = std::pow(10.0, places);
+    return std::nearbyint(fullPi * unit) / unit;
+}
+
+using Sides = std::vector<double>;
+
+// A figure: which boxes hold its sides, in the order of the formula, and what they make.
+struct Figure {
+    const char* topic;
+    std::vector<int> boxes;
+    double (*value)(const Sides& sides, int places);
+    bool rounded;
+    const char* complaint;  // a piece of what is said of a side that is not above 0
+};
+
+const std::vector<Figure>& figures() {
+    static const std::vector<Figure> all = {
+        {"Volume of a Box/Cube",
+         {2, 3, 1},
+         [](const Sides& s, int) { return s[0] * s[1] * s[2]; },
+         true,
+         "All sides must be greater than zero."},
+        {"Volume of a Cylinder",
+         {2, 1},
+         [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[1]; },
+         true,
+         "All lengths must be greater than zero."},
+        {"Volume of a Cone",
+         {2, 1},
+         [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[1] / 3; },
+         true,
+         "All lengths must be greater than zero."},
+        {"Volume of a Pyramid",
+         {2, 3, 1},
+         [](const Sides& s, int) { return s[0] * s[1] * s[2] / 3; },
+         true,
+         "All sides must be greater than zero."},
+        {"Volume of a Sphere",
+         {2},
+         [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[0] * 4 / 3; },
+         true,
+         "The radius must be greater than zero."},
+        {"Area of a Square/Rectangle",
+         {2, 1},
+         [](const Sides& s, int) { return s[0] * s[1]; },
+         true,
+         "All sides must be greater than zero."},
+        {"Area of a Circle",
+         {2},
+         [](const Sides& s, int) { return fullPi * s[0] * s[0]; },
+         true,
+         "The radius must be greater than zero."},
+        {"Area of a Triangle",
+         {2, 1},
+         [](const Sides& s, int) { return s[0] * s[1] / 2; },
+         true,
+         "All sides must be greater than zero."},
+        {"Area of a Parallelogram",
+         {2, 1},
+         [](const Sides& s, int) { return s[0] * s[1]; },
+         true,
+         "All sides must be greater than zero."},
+        {"Area of a Trapezoid",
+         {2, 3, 1},
+         [](const Sides& s, int) { return s[1] * (s[0] + s[2]) / 2; },
+         true,
+         "All sides must be greater than zero."},
+        {"Perimeter of a Square/Rectangle",
+         {2, 1},
+         [](const Sides& s, int) { return 2 * (s[0] + s[1]); },
+         false,
+         "All sides of a square/rectangle must be greater than zero."},
+        {"Perimeter of a Triangle",
+         {3, 2, 1},
+         [](const Sides& s, int) { return s[0] + s[1] + s[2]; },
+         false,
+         "All sides of a triangle must be greater than zero."},
+        {"Calculating Circumference Using Radius",
+         {2},
+         [](const Sides& s, int places) { return 2 * roundedPi(places) * s[0]; },
+         false,
+         "The radius of a circle must be greater than 0."},
+        {"Calculating Circumference Using Diameter",
+         {2},
+         [](const Sides& s, int places) { return roundedPi(places) * s[0]; },
+         false,
+         "The diameter of a circle must be greater than 0."},
+        {"Calculating Diameter Using Radius",
+         {2},
+         [](const Sides& s, int) { return 2 * s[0]; },
+         false,
+         "The radius of a circle must be greater than 0."},
+        {"Calculating Radius Using Diameter",
+         {2},
+         [](const Sides& s, int) { return s[0] / 2; },
+         false,
+         "The diameter of a circle must be greater than 0."},
+    };
+    return all;
+}
+
+DrawnProblem drawFigure(const Figure& figure, Draws& draws) {
+    DrawnProblem drawn{{figure.topic, ""}, {}};
+    const int places = placesFor(draws, drawn.problem);
+    Sides sides;
+    bool all = true;
+    for (const int box : figure.boxes) {
+        const std::string text = boxText(draws);
+        drawn.problem.boxes[box] = text;
+        sides.push_back(valueText(text));
+        all = all && sides.back() > 0;
+    }
+    if (!all) {
+        drawn.wanted.line = figure.complaint;
+        return drawn;
+    }
+    drawn.wanted.last = figure.value(sides, places);
+    if (figure.rounded) drawn.wanted.places = places;
+    return drawn;
+}
+
+// a = T4, b = T2, c = T1, one of them left empty.
+DrawnProblem drawRightTriangle(Draws& draws) {
+    DrawnProblem drawn{{"Pythagorean Theorem", ""}, {}};
+    drawn.wanted.places = placesFor(draws, drawn.problem);
+    static constexpr int boxes[] = {4, 2, 1};
+    const int missing = draws.below(3);
+    double sides[3] = {};
+    bool all = true;
+    for (int side = 0; side < 3; ++side) {
+        if (side == missing) continue;
+        const std::string text = boxText(draws);
+        drawn.problem.boxes[boxes[side]] = text;
+        sides[side] = valueText(text);
+        all = all && sides[side] > 0;
+    }
+    const double other = missing == 0 ? sides[1] : sides[0];
+    if (!all) {
+        drawn.wanted.line = "All sides of a triangle must be greater than zero.";
+    } else if (missing == 2) {
+        drawn.wanted.first = std::hypot(sides[0], sides[1]);
+    } else if (sides[2] < other) {
+        drawn.wanted.line = "Side c must be the longest side in a right triangle.";
+    } else {
+        drawn.wanted.last = std::sqrt(sides[2] * sides[2] - other * other);
+    }
+    return drawn;
+}
+
+// a1 = T3, b1 = T2, c1 = T1; a2 = T4, b2 = T6, c2 = T5, one of the last three left empty. The last
+// line gives the last side that is not the known one.
+DrawnProblem drawSimilarTriangles(Draws& draws) {
+    DrawnProblem drawn{{"Similar Triangles", ""}, {}};
+    static constexpr int firstBoxes[] = {3, 2, 1};
+    static constexpr int secondBoxes[] = {4, 6, 5};
+    double first[3];
+    double second[3] = {};
+    bool all = true;
+    const int missing = draws.below(3);
+    for (int side = 0; side < 3; ++side) {
+        const std::string text = draws.chance(90) ? draws.number(2) : boxText(draws);
+        drawn.problem.boxes[firstBoxes[side]] = text;
+        first[side] = valueText(text);
+        all = all && first[side] > 0;
+        if (side == missing) continue;
+        const std::string similar = draws.chance(90) ? draws.number(2) : boxText(draws);
+        drawn.problem.boxes[secondBoxes[side]] = similar;
+        second[side] = valueText(similar);
+    }
+    // The known side is taken in the order a2, c2, b2; with one side missing, a2 or else c2.
+    const int known = missing == 0 ? 2 : 0;
+    if (!all || second[known] <= 0) {
+        drawn.wanted.line = "All sides of a triangle must have a length greater than zero.";
+        return drawn;
+    }
+    // The ratio is shown and used with two places; a ratio that rounds to 0 divides by 0.
+    const double ratio = std::nearbyint(first[known] / second[known] * 100) / 100;
+    if (ratio == 0) {
+        drawn.wanted.message = "Division by 0!";
+        return drawn;
+    }
+    const int lastSide = known == 2 ? 1 : 2;
+    drawn.wanted.last = first[lastSide] / ratio;
+    drawn.wanted.places = 2;
+    return drawn;
+}
+
+}  // namespace
+
+std::string positiveText(Draws& draws) {
+    if (draws.chance(70)) return draws.number(3);
+    if (draws.chance(50)) return draws.number(3) + "." + std::to_string(draws.between(1, 99));
+    return draws.oneOf<const char*>({".5", "7.", "05", "0.25", "1.50", "9999"});
+}
+
+std::string boxText(Draws& draws) {
+    if (draws.chance(6)) return draws.oneOf<const char*>({"0", "-3", "-.5", "0.0", "-0"});
+    return positiveText(draws);
+}
+
+double valueText(const std::string& text) {
+    return std::strtod(text.c_str(), nullptr);
+}
+
+int placesFor(Draws& draws, Problem& problem) {
+    if (draws.chance(60)) return 2;
+    const int places = draws.between(1, 5);
+    problem.settings["RoundVar"] = std::to_string(places);
+    return places;
+}
+
+std::vector<TopicGenerator> geometryGenerators() {
+    std::vector<TopicGenerator> all;
+    for (const Figure& figure : figures()) {
+        all.push_back([&figure](Draws& draws) { return drawFigure(figure, draws); });
+    }
+    all.push_back(drawRightTriangle);
+    all.push_back(drawSimilarTriangles);
+    return all;
+}
+
+}  // namespace ordwise::test

@@ -1,0 +1,44 @@
+// Every scripted topic against plain arithmetic, over random problems.
+#include "TopicProblems.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace ordwise::test {
+namespace {
+
+// Complaints that say no more than that the solve ended as it had to.
+void dropForeseen(Complaints& found, const Wanted& wanted) {
+    std::erase_if(found, [&](const Complaint& one) {
+        return !wanted.message.empty() && one.kind == "message box: " + wanted.message;
+    });
+}
+
+// A heading that explains itself stands without a note in these topics.
+bool mayStandWithoutNote(const Problem& problem, const Complaint& complaint) {
+    if (complaint.kind != "a note is empty") return false;
+    if (problem.topic == "Multiples") return complaint.detail.rfind("The first ten multiples", 0) == 0;
+    if (problem.topic != "Fraction To Mixed Notation") return false;
+    return complaint.detail.find("= 1") != std::string::npos || complaint.detail.find("equals 1") != std::string::npos;
+}
+
+TEST(TopicInvariant, EveryScriptedTopicGivesTheAnswerOfPlainArithmetic) {
+    Survey book;
+    for (const auto& generate : topicGenerators()) {
+        Draws draws(20260722);
+        for (int i = 0; i < 120; ++i) {
+            const DrawnProblem drawn = generate(draws);
+            const Solution solution = solve(drawn.problem);
+            Complaints found = commonComplaints(drawn.problem, solution);
+            dropForeseen(found, drawn.wanted);
+            std::erase_if(found, [&](const Complaint& one) { return mayStandWithoutNote(drawn.problem, one); });
+            if (found.empty()) found = answerComplaints(drawn.wanted, solution);
+            book.add(drawn.problem, solution, found);
+        }
+    }
+    book.report("Scripted topics");
+}
+
+}  // namespace
+}  // namespace ordwise::test
