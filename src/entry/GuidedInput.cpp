@@ -1,0 +1,136 @@
+#include "GuidedInput.hpp"
+
+#include "CanonicalRewrite.hpp"
+#include "Catalogue.hpp"
+#include "InputMaskCheck.hpp"
+#include "SolveDriver.hpp"
+#include "StepDisplay.hpp"
+#include "SyntaxCheck.hpp"
+#include "TextTools.hpp"
+#include "Windows.hpp"
+#include "Workspace.hpp"
+#include "basBreakdownFunc.hpp"
+#include "basFPrint.hpp"
+
+namespace ordwise {
+
+namespace {
+
+constexpr double fullLineX = 730;
+// A line that is drawn over several rows begins each anew and never reaches fullLineX. Far more
+// keys than a paper holds, and few enough for the cells of the rewrite.
+constexpr int mostKeys = 300;
+
+bool lineIsFull() {
+    return ws.LineEndX >= fullLineX || ws.InputLast >= mostKeys;
+}
+
+// Undoes what the removed character did to the syntax state. What else it had closed, an exponent
+// or a fraction, is not opened again.
+void rollBack(const std::string& removed) {
+    if (removed == "~") ws.RootOpen = false;
+    if (removed == "=") ws.EqualsTyped = false;
+    if (removed == "^") ws.ExponentOpen = false;
+    if (removed == ")") ws.ParenDepth += 1;
+    if (removed == "(") ws.ParenDepth -= 1;
+    if (removed == "|") {
+        ws.BarOpen = !ws.BarOpen;
+        ws.BarDepth += ws.BarOpen ? 1 : -1;
+    }
+    if (removed == "/") {
+        ws.FractionOpen = false;
+        ws.ParenSide = 0;
+    }
+}
+
+void removeLast() {
+    ws.InputLast -= 1;
+    rollBack(ws.InputTokens[ws.InputLast]);
+    ws.InputTokens.set(ws.InputLast, "");
+}
+
+// An exponent's mark goes with its digit. False on an empty paper.
+bool eraseOne() {
+    if (ws.InputLast == 0) {
+        ws.ExplainOverrideText = "Problem has already been erased.";
+        return false;
+    }
+    removeLast();
+    if (ws.InputLast > 0 && ws.InputTokens[ws.InputLast - 1] == "^") removeLast();
+    return true;
+}
+
+bool typeOne(std::string_view key) {
+    if (std::optional<std::string> reason = maskRefusal(key)) {
+        ws.ExplainOverrideText = std::move(*reason);
+        return false;
+    }
+    CollectVariables();
+    const std::string ch = lowered(key);
+    if (!SyntaxCheck(ch)) return false;
+    ws.InputTokens.set(ws.InputLast, ch);
+    ws.InputLast += 1;
+    return true;
+}
+
+void showAccepted() {
+    frmPaper.Light.Image = "light2";
+    frmPaper.Light.ToolTip = "Correct Input.";
+    const Sheet& paper = frmPaper.Paper[0];
+    frmPaper.Pencil.Left = ws.LineEndsInFraction ? ws.DenominatorEndX + paper.Left - 11 : ws.LineEndX + paper.Left - 9;
+    frmPaper.Pencil.Top = paper.Top - 122;
+}
+
+void showRefused() {
+    frmPaper.Light.Image = "light3";
+    frmPaper.Light.ToolTip = "Incorrect input.";
+}
+
+// Enter runs what can be run; false if there is nothing.
+bool command() {
+    if (frmMain.Toolbar1[MainWindow::buttonSolve].Enabled) {
+        compute_Click();
+        return true;
+    }
+    if (frmPaper.Paper[ws.CurrentSheet].blinker.Visible) {
+        blinker_Click();
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+KeyOutcome Form_KeyPress(std::string_view key) {
+    ws.CharAccepted = false;
+    if (key == enterKey && command()) return KeyOutcome::Commanded;
+    const bool hasRoom = key == backspaceKey || !lineIsFull();
+    if (!hasRoom || ws.ProblemType < firstPaperTopic || !ws.InputOpen) return KeyOutcome::Dropped;
+
+    frmPaper.Paper[0].cls();
+    frmPaper.Paper[0].CurrentY = sheetTopY;
+    FormFilter(key, false);
+    ws.ProblemText = replaced(ImplodeInput(), " ", "");
+
+    if (!ws.CharAccepted) {
+        showRefused();
+        return KeyOutcome::Refused;
+    }
+    showAccepted();
+    return KeyOutcome::Accepted;
+}
+
+void FormFilter(std::string_view key, bool quiet) {
+    const bool erases = key == backspaceKey;
+    ws.CharAccepted = erases ? eraseOne() : typeOne(key);
+    if (!quiet && ws.CharAccepted) {
+        frmPaper.Pencil.Image = erases ? "pencil2" : "pencil1";
+        frmPaper.Timer1.Enabled = frmMain.mnuPencil.Checked;
+    }
+
+    GroupInput();
+    const std::string markup = RewriteAll();
+    if (!quiet) PrintMathLine(markup, false);
+}
+
+}  // namespace ordwise

@@ -1,0 +1,32 @@
+// Guided typing: what happens on every key on the paper.
+//
+// A topic from firstPaperTopic on is typed on the paper, key by key. A key that keeps the problem
+// well formed enters InputTokens, and the line is drawn anew; any other is refused: the light turns
+// red, ExplainOverrideText says why, and nothing else changes.
+#pragma once
+
+#include <string_view>
+
+namespace ordwise {
+
+// A key is one character in UTF-8. Two of them are no text:
+inline constexpr std::string_view backspaceKey = "\b";
+inline constexpr std::string_view enterKey = "\r";
+
+enum class KeyOutcome {
+    Accepted,
+    Refused,   // the reason is in ExplainOverrideText
+    Dropped,   // not even looked at: the line is full, or the paper takes no keys
+    Commanded  // Enter has run Solve or Next Step
+};
+
+// A key pressed on the worksheet. Leaves the light, the pencil, the drawn line, ProblemText and
+// whether Solve is enabled as they are to be seen. CharAccepted is true for Accepted only.
+// e.g. "4" behind "3/" -> Accepted; the paper shows #3/4#
+KeyOutcome Form_KeyPress(std::string_view key);
+
+// The same for the text alone: CharAccepted, InputTokens, the syntax state, the rewrite and Solve.
+// `quiet` draws nothing; example problems are typed so.
+void FormFilter(std::string_view key, bool quiet);
+
+}  // namespace ordwise
