@@ -17,7 +17,7 @@ namespace {
 using Values = std::vector<std::string>;
 
 // Sorts by value with exchange passes, each slot being compared with every later one. The passes also
-// settle the order of values that are equal but typed differently. e.g. 2, 1.0, 1 -> 1, 1.0, 2
+// settle the order of values that are equal but typed differently. e.g. 2, 1.0, 1, 0 -> 0, 1, 1.0, 2
 template <class OutOfOrder>
 void exchangeSort(Values& values, OutOfOrder outOfOrder) {
     for (std::size_t i = 0; i < values.size(); ++i) {

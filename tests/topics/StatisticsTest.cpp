@@ -56,7 +56,7 @@ TEST(Statistics, SolvesEachBranchWhole) {
 }
 
 TEST(Statistics, ValuesThatAreEqualButTypedDifferentlyKeepTheirText) {
-    EXPECT_EQ(solutionOf([] { Median("2,1.0,1"); }).lines[2], "1,1.0,2");
+    EXPECT_EQ(solutionOf([] { Median("2,1.0,1,0"); }).lines[2], "0,1,1.0,2");
 }
 
 TEST(Statistics, TextThatIsNoNumberEndsInTheTypeFault) {
