@@ -10,7 +10,7 @@ namespace {
 // a bar that joins to its neighbour, and * as the sign of multiplication.
 // clang-format off
 constexpr std::array<int, 95> halvernWidths{
-    220, 296, 389, 556, 556, 833, 600, 204, 333, 333, 500, 606, 278, 333, 278, 278,
+    220, 296, 389, 556, 556, 833, 440, 204, 333, 333, 500, 606, 278, 606, 278, 278,
     556, 556, 556, 556, 556, 556, 556, 556, 556, 556, 278, 278, 606, 606, 606, 444,
     737, 722, 722, 722, 778, 722, 667, 778, 833, 407, 556, 778, 667, 944, 815, 778,
     667, 778, 722, 630, 667, 815, 722, 981, 704, 704, 611, 333, 606, 333, 606, 100,
@@ -19,19 +19,16 @@ constexpr std::array<int, 95> halvernWidths{
 };
 
 constexpr std::array<int, 95> explanationWidths{
-    250, 278, 402, 500, 500, 889, 600, 227, 490, 490, 421, 760, 250, 333, 250, 511,
+    250, 278, 402, 500, 500, 889, 640, 227, 490, 490, 500, 760, 250, 333, 250, 511,
     500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 250, 250, 769, 760, 769, 444,
     747, 778, 667, 722, 833, 611, 556, 833, 833, 389, 389, 778, 611, 1000, 833, 833,
-    611, 833, 722, 611, 667, 778, 778, 1000, 667, 667, 667, 457, 760, 457, 606, 100,
+    611, 833, 722, 611, 667, 778, 778, 1000, 667, 667, 667, 457, 606, 457, 606, 100,
     600, 500, 611, 444, 611, 500, 389, 556, 611, 333, 333, 611, 333, 889, 611, 556,
-    611, 611, 389, 444, 333, 611, 556, 833, 500, 556, 500, 760, 232, 472, 450,
+    611, 611, 389, 444, 333, 611, 556, 833, 500, 556, 500, 606, 232, 472, 450,
 };
 // clang-format on
 
-constexpr double halvernEm = 10.0 / 9.0;
-constexpr double explanationEm = 1.0;
 constexpr double ascent = 0.95;
-constexpr double lineHeight = 1.2;
 
 const std::array<int, 95>& widthsOf(Face face) {
     return face == Face::Halvern ? halvernWidths : explanationWidths;
@@ -40,7 +37,8 @@ const std::array<int, 95>& widthsOf(Face face) {
 }  // namespace
 
 double emOf(Face face, double points) {
-    return points * (face == Face::Halvern ? halvernEm : explanationEm);
+    // 20 units at 18 points, where sheets are written, and 11 at 8 points, where exponents are.
+    return face == Face::Halvern ? 0.9 * points + 3.8 : points + 2;
 }
 
 double ascentOf(Face face, double points) {
@@ -48,7 +46,8 @@ double ascentOf(Face face, double points) {
 }
 
 double lineHeightOf(Face face, double points) {
-    return lineHeight * emOf(face, points);
+    // Explanations are prose with fractions in it, which need more room between the lines.
+    return (face == Face::Halvern ? 1.2 : 1.45) * emOf(face, points);
 }
 
 double textWidth(Face face, std::string_view text, double points) {

@@ -12,6 +12,10 @@ namespace {
 
 constexpr std::size_t longestPart = 50;
 
+// Where a radical sign of ordinary height stands.
+constexpr double signLeft = 2;
+constexpr double signUp = 2;
+
 // "a/(b/c)" -> "a", "(b/c)": the last "/" outside of parentheses; without one both are empty.
 std::pair<std::string_view, std::string_view> halvesOf(std::string_view text) {
     int depth = 0;
@@ -129,6 +133,8 @@ void MathLineRenderer::PrintRadical(std::string_view text) {
     const double end = surface_->CurrentX;
 
     surface_->CurrentY -= offsets_.radicalBarRaise.at(surface_->FontSize);
+    // Over a fraction the bar rises as far as its sign does, or it would strike the numerator through.
+    if (hasFraction) surface_->CurrentY -= offsets_.tallSignUp;
     surface_->CurrentX = x0 + offsets_.radicalBarStart.at(surface_->FontSize);
     bar(end);
     const double barEnd = surface_->CurrentX;
@@ -142,8 +148,8 @@ void MathLineRenderer::PrintRadical(std::string_view text) {
         surface_->CurrentY += offsets_.tallSignDown;
         surface_->CurrentX -= offsets_.tallSignLeft;
     } else {
-        surface_->CurrentX -= 2;
-        surface_->CurrentY -= 2;
+        surface_->CurrentX -= signLeft;
+        surface_->CurrentY -= signUp;
     }
     surface_->print("~");
     surface_->CurrentX = barEnd;
