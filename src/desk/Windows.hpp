@@ -57,8 +57,9 @@ struct PaperWindow {
 
     bool Loaded = false;
     BoundedArray<Sheet, lastSheet> Paper;
-    int FrontOrder = 0;  // the highest Order given so far
-    Control Label7;      // the date, on the first sheet
+    int FrontOrder = 0;     // the highest Order given so far
+    bool PileFull = false;  // the last line found no room on the tenth sheet, and a message has said so
+    Control Label7;         // the date, on the first sheet
     Control Light;
     Control Pencil;
     Control deskPencil;

@@ -64,6 +64,10 @@ public:
     // its closing mark and for text beyond the limits; what was drawn so far stays.
     void line(std::string_view markup);
 
+    // After a fault: puts the pen to the beginning of the next line, as if the line had ended where
+    // the fault came. Does nothing when no line was begun.
+    void newLine();
+
     [[nodiscard]] double lineEndX() const { return lineEndX_; }
     [[nodiscard]] double lineEndY() const { return lineEndY_; }
     [[nodiscard]] double denominatorEndX() const { return denominatorEndX_; }
@@ -85,6 +89,7 @@ private:
     const SurfaceOffsets& offsets_;
     Colour normal_;
     NextPage nextPage_;
+    bool begun_ = false;
     double baseline_ = 0;
     double lineEndX_ = 0;
     double lineEndY_ = 0;

@@ -34,6 +34,7 @@ void MathLineRenderer::line(std::string_view s) {
     const bool hasFraction = s.find('/') != std::string_view::npos;
     surface_->CurrentY += (hasFraction ? offsets_.moveDownFraction : offsets_.moveDown).at(surface_->FontSize);
     baseline_ = surface_->CurrentY;
+    begun_ = true;
     endsInFraction_ = false;
 
     for (std::size_t i = 0; i < s.size();) {
@@ -54,7 +55,14 @@ void MathLineRenderer::line(std::string_view s) {
     }
     lineEndX_ = surface_->CurrentX - 4;
     lineEndY_ = surface_->CurrentY;
+    newLine();
+}
+
+void MathLineRenderer::newLine() {
+    if (!begun_) return;
+    surface_->CurrentY = baseline_;
     surface_->printLine(" ");
+    begun_ = false;
 }
 
 void MathLineRenderer::construct(char mark, std::string_view text) {

@@ -120,6 +120,7 @@ void MathLineRenderer::PrintRadical(std::string_view text) {
                 PrintFraction(part);
                 surface_->CurrentY = y0;
                 hasFraction = true;
+                endsInFraction_ = true;
             } else {
                 PrintExponent(part);
             }

@@ -29,19 +29,30 @@ DrawingSurface& nextSheet(bool afterBreak) {
     return sheet;
 }
 
+// Of a long solution every line behind the tenth sheet faults; one message says it for all of them.
+void reportFault() {
+    const bool full = ws.CurrentSheet == PaperWindow::lastSheet &&
+                      frmPaper.Paper[ws.CurrentSheet].CurrentY > worksheetOffsets.pageFull;
+    if (full && frmPaper.PileFull) return;
+    frmPaper.PileFull = full;
+    platform.dialogs->messageBox("An error occurred while displaying information.", "Ordwise", MessageButtons::Ok);
+}
+
 }  // namespace
 
 void PrintMathLine(std::string_view line, bool placeButton) {
+    MathLineRenderer renderer(frmPaper.Paper[ws.CurrentSheet], worksheetOffsets, black, nextSheet);
     try {
-        MathLineRenderer renderer(frmPaper.Paper[ws.CurrentSheet], worksheetOffsets, black, nextSheet);
         renderer.line(line);
         ws.LineEndX = renderer.lineEndX();
         ws.LineEndY = renderer.lineEndY();
         ws.LineEndsInFraction = renderer.endsInFraction();
         if (renderer.denominatorEndX() > 0) ws.DenominatorEndX = longOf(renderer.denominatorEndX());
+        frmPaper.PileFull = false;
         if (placeButton) PlaceNextStep();
     } catch (const RunTimeFault&) {
-        platform.dialogs->messageBox("An error occurred while displaying information.", "Ordwise", MessageButtons::Ok);
+        renderer.newLine();
+        reportFault();
     }
 }
 
