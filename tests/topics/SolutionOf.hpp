@@ -67,6 +67,24 @@ inline void expectSound(const Solution& solution, const std::string& problem) {
     }
 }
 
+// The solution as it would be copied: each line, and its note indented below it.
+inline std::string asText(const Solution& solution) {
+    std::string text = "\n";
+    for (std::size_t i = 0; i < solution.lines.size(); ++i) {
+        text += solution.lines[i] + "\n";
+        if (!solution.notes[i].empty()) text += "    " + solution.notes[i] + "\n";
+    }
+    return text;
+}
+
+// The line in which a sound solution ends: the answer or the complaint.
+template <class Solver>
+std::string answerOf(Solver solve, int roundPlaces = 2) {
+    const Solution solution = solutionOf(solve, roundPlaces);
+    expectSound(solution, asText(solution));
+    return solution.last();
+}
+
 // The number between two pieces of a line, e.g. ("base = 2.5", "base = ", "") -> 2.5
 inline double numberIn(const std::string& line, const std::string& before, const std::string& after = "") {
     const std::size_t start = before.empty() ? 0 : line.rfind(before);
