@@ -1,5 +1,6 @@
 #include "WorksheetBoxes.hpp"
 
+#include "GuidedInput.hpp"
 #include "NumberText.hpp"
 #include "TextTools.hpp"
 #include "Windows.hpp"
@@ -44,7 +45,7 @@ bool refuse(std::string reason) {
 bool Text_KeyPress(int number, std::string_view key) {
     if (!ws.InputOpen) return refuse("The problem has been solved.  Erase it to enter another one.");
     std::string text = frmPaper.box(number).Text;
-    if (key == "\b") {
+    if (key == backspaceKey) {
         if (!text.empty()) text.pop_back();
     } else {
         std::string reason = refusalOf(number, text, key);

@@ -10,7 +10,7 @@
 
 namespace ordwise {
 
-// One key in a box: digits, one ".", a "-" at the start, and Backspace ("\b"), which takes the last
+// One key in a box: digits, one ".", a "-" at the start, and Backspace (backspaceKey), which takes the last
 // character away; ten characters at most. The boxes of exponents take no ".". False if refused, also
 // once the problem has been solved. e.g. "3" in the box "-1" -> "-13"
 bool Text_KeyPress(int number, std::string_view key);

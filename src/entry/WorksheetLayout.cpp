@@ -2,6 +2,7 @@
 // window of 1024 by 740 shows the whole desk.
 #include "WorksheetLayout.hpp"
 
+#include "Catalogue.hpp"
 #include "GlyphMetrics.hpp"
 #include "NumberText.hpp"
 #include "Platform.hpp"
@@ -20,7 +21,6 @@ constexpr double pictureTop = 64;
 constexpr double pictureWidth = 520;
 constexpr double figureHeight = 300;
 constexpr double rowHeight = 200;
-constexpr double labelWidth = 66;
 constexpr double labelHeight = 28;
 
 // The characters that a topic takes, as bits of InputMask.
@@ -57,18 +57,27 @@ void fillCombo(ComboControl& combo, const std::vector<std::string>& list, double
     place(combo, left, top, width, 28);
 }
 
-// A caption such as "a=" ends at its box; one such as "=radius" starts there.
-void showLabel(const PlacedLabel& placed) {
+// The first box behind a label on its line; null if there is none.
+const PlacedBox* boxBehind(const PlacedLabel& label, const std::vector<PlacedBox>& boxes) {
+    const PlacedBox* nearest = nullptr;
+    for (const PlacedBox& box : boxes) {
+        const bool behind = box.top == label.top && box.left > label.left;
+        if (behind && (nearest == nullptr || box.left < nearest->left)) nearest = &box;
+    }
+    return nearest;
+}
+
+// A caption such as "a=" ends at its box; one such as "=radius" or "%    of" starts at its place.
+void showLabel(const PlacedLabel& placed, const std::vector<PlacedBox>& boxes) {
     Control& label = frmPaper.*placed.label;
     label.Text = placed.caption;
     label.AlignRight = label.Text.size() > 1 && label.Text.back() == '=';
     label.Visible = true;
-    place(label, placed.left, placed.top, labelWidth, labelHeight);
-    if (!label.AlignRight) return;
-    for (const PlacedBox& box : layoutOf(ws.ProblemType)->boxes) {
-        if (box.top == placed.top && box.left > placed.left && box.left - placed.left <= 70)
-            label.Width = box.left - placed.left - 3;
-    }
+    const PlacedBox* box = label.AlignRight ? boxBehind(placed, boxes) : nullptr;
+    // Blanks behind a sign keep the box away and may lie under it.
+    const std::string lettered = label.Text.substr(0, label.Text.find_last_not_of(' ') + 1);
+    const double width = box != nullptr ? box->left - placed.left : textWidth(Face::Halvern, lettered, labelPoints) + 2;
+    place(label, placed.left, placed.top, width, labelHeight);
 }
 
 void arrangePicture(const WorksheetLayout& layout) {
@@ -81,7 +90,7 @@ void arrangePicture(const WorksheetLayout& layout) {
         box.Top = placed.top;
         box.Visible = true;
     }
-    for (const PlacedLabel& placed : layout.labels) showLabel(placed);
+    for (const PlacedLabel& placed : layout.labels) showLabel(placed, layout.boxes);
     if (ws.ProblemType == metersTopic || ws.ProblemType == gramsTopic) {
         const auto& units = ws.ProblemType == metersTopic ? meterUnits : gramUnits;
         fillCombo(frmPaper.Combo1, units, 65, 86, 210);

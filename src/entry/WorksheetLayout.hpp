@@ -11,6 +11,9 @@
 
 namespace ordwise {
 
+// The labels are lettered in the face of the sheets at this size.
+inline constexpr double labelPoints = 16;
+
 inline constexpr int metersTopic = 23;
 inline constexpr int gramsTopic = 24;
 inline constexpr int roundingTopic = 98;

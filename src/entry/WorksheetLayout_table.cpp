@@ -16,6 +16,9 @@ constexpr auto T4 = &PaperWindow::Text4, T5 = &PaperWindow::Text5, T6 = &PaperWi
 constexpr auto L1 = &PaperWindow::Label1, L2 = &PaperWindow::Label2, L3 = &PaperWindow::Label3;
 constexpr auto L4 = &PaperWindow::Label4, L5 = &PaperWindow::Label5, L8 = &PaperWindow::Label8;
 
+// As wide as a box in any face: three dashes of an em each.
+constexpr const char* fractionBar = "\u2014\u2014\u2014";
+
 // clang-format off
 const std::vector<WorksheetLayout> layouts = {
     {{1}, "cube",
@@ -69,7 +72,7 @@ const std::vector<WorksheetLayout> layouts = {
         {T1, T2, T4}},
     {{20}, "",
         {{T1, 175, 50}, {T2, 175, 112}, {T3, 270, 50}, {T4, 270, 112}},
-        {{L1, 245, 81, "="}, {L2, 175, 74, "______"}, {L3, 270, 74, "______"}},
+        {{L1, 245, 81, "="}, {L2, 175, 81, fractionBar}, {L3, 270, 81, fractionBar}},
         {T1, T2, T3, T4}},
     {{21, 22}, "",
         {{T1, 140, 86}, {T2, 220, 86}, {T4, 310, 86}},
