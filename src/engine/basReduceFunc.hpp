@@ -53,17 +53,22 @@ void CombineByCommonDenominator(int group);
 
 // --- radicals, exponents, absolute value: basReduceFunc_radicals.cpp
 
-// Perfect squares out from under the roots of depth 0. e.g. ~12 -> 2~3
+// Perfect squares out from under the roots of depth 0, a step each, two where a number stands in
+// front. Fault 6 for a radicand beyond 32 bits, fault 9 for a prime above 200000.
+// e.g. ~12 -> 2~3, 3~4 -> 3*2 -> 6
 void SimplifyRadicals();
 // "outer~inner" of a root's value in the roots topic, RadicalMode true; otherwise the text of a
-// whole root or "". e.g. sqrt(12) -> "2~3"
+// whole root or "". e.g. sqrt(12) -> "2~3", sqrt(7) -> "1~7", 4 -> "4"
 [[nodiscard]] std::string RadicalText(float value);
-// The powers of numbers of a group written out. e.g. 2^3+1 -> 2*2*2+1
+// The powers of numbers of a group written out and committed. Fault 11 for a negative power of 0.
+// e.g. 2^3+1 -> 2*2*2+1, 5^0 -> 1
 void ExpandPowers(int group);
-// The same and the products worked out; false if no number has a power.
+// The same, the products worked out and a factor in front multiplied in; false if no number has a
+// power. e.g. 2(3^2+x) -> 2(3*3+x) -> 2(9+x) -> (18+2x)
 bool ExpandIfPowers(int group);
-// A bar group of one term. e.g. |-5| -> 5
-void AbsoluteValueStep(int group);
+// A bar group of one number; false, and nothing done, for any other. e.g. |-5| -> 5
+bool AbsoluteValueStep(int group);
+// The rewrite alone. e.g. 2|-5| -> 2*5
 void TakeAbsoluteValue(int depth, int group);
 
 }  // namespace ordwise
