@@ -26,21 +26,21 @@ void CommitStep(CommitOptions options = {});
 // --- factors: basFormattingEq_products.cpp
 
 // One factor of a product: coefficient, letters above and below the bar, as in an ExprTerm.
-struct Factor {
+struct Monomial {
     float numerator = 1.0F;  // signed
     float denominator = 1.0F;
     std::string numText;
     std::string denText;
 };
 
-[[nodiscard]] Factor factorOf(const ExprTerm& term);
+[[nodiscard]] Monomial monomialOf(const ExprTerm& term);
 // e.g. 3, "x" times -2, "x" -> -6, "x^2"
-[[nodiscard]] Factor product(const Factor& a, const Factor& b);
+[[nodiscard]] Monomial product(const Monomial& a, const Monomial& b);
 // A factor in token text: a minus only, no sign, a sign always. e.g. -3, "x", 4 below -> "-3x/4",
 // "3x/4", "-3x/4"; a coefficient of 0 leaves the number alone
-[[nodiscard]] std::string plainText(const Factor& factor);
-[[nodiscard]] std::string unsignedText(Factor factor);
-[[nodiscard]] std::string signedText(const Factor& factor);
+[[nodiscard]] std::string plainText(const Monomial& factor);
+[[nodiscard]] std::string unsignedText(Monomial factor);
+[[nodiscard]] std::string signedText(const Monomial& factor);
 // Neither letters nor root nor an exponent other than 1. e.g. 3/4
 [[nodiscard]] bool isPlainNumber(const ExprTerm& term);
 
@@ -53,7 +53,7 @@ struct NumberPower {
 // A number with an exponent as a product of itself, or as its value where that product would stand
 // in a fraction; fractionText is the token a/b if that is what is raised. No sign.
 // e.g. 2, "^3" -> "2*2*2"; 2, "^3", 4 below -> "8/4"; 2, "^-2" -> "1/4"; "3/2", "^2" -> "3/2*3/2"
-[[nodiscard]] std::string writtenOutPower(const Factor& base, const std::string& fractionText);
+[[nodiscard]] std::string writtenOutPower(const Monomial& base, const std::string& fractionText);
 
 // Without exponents of 1. e.g. "3x^1" -> "3x", "x^12" stays
 [[nodiscard]] std::string withoutExponentOne(const std::string& text);

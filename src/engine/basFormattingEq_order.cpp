@@ -51,7 +51,7 @@ std::optional<Pair> firstPair(int first, int last) {
     return std::nullopt;
 }
 
-void readNumber(const std::string& t, bool below, Factor& factor) {
+void readNumber(const std::string& t, bool below, Monomial& factor) {
     const std::size_t root = t.find('~');
     if (root != std::string::npos) {
         if (root > 0) factor.numerator *= static_cast<float>(lenientValueOf(t.substr(0, root)));
@@ -65,8 +65,8 @@ void readNumber(const std::string& t, bool below, Factor& factor) {
 }
 
 // e.g. tokens -, 3, x, ^, 2, /, 4 -> -3, "x^2", 4
-Factor readFactor(int first, int last) {
-    Factor factor;
+Monomial readFactor(int first, int last) {
+    Monomial factor;
     bool below = false;
     for (int slot = first; slot <= last; ++slot) {
         const std::string& t = token(slot);
@@ -90,8 +90,8 @@ Factor readFactor(int first, int last) {
 // The text with the product in the place of its factors. A star in front of the left factor stays.
 // e.g. 2-3*4 -> "+2-12"
 std::string multipliedText(const Pair& pair) {
-    const Factor left = readFactor(pair.leftFirst, pair.star - 1);
-    Factor result = product(left, readFactor(pair.star + 1, pair.rightLast));
+    const Monomial left = readFactor(pair.leftFirst, pair.star - 1);
+    Monomial result = product(left, readFactor(pair.star + 1, pair.rightLast));
     const int before = pair.leftFirst - 1;
     const std::string rest = tokensText(pair.rightLast + 1, ws.TokenLast);
     if (!isSignAt(before)) return tokensText(0, before) + plainText(result) + rest;
@@ -121,8 +121,8 @@ bool firstPairHoldsPower(int group) {
     const ExprGroup& record = groupOf(ws.MaxDepth, group);
     const std::optional<Pair> pair = firstPair(record.openIndex + 1, record.closeIndex - 1);
     if (!pair) return false;
-    const Factor left = readFactor(pair->leftFirst, pair->star - 1);
-    const Factor right = readFactor(pair->star + 1, pair->rightLast);
+    const Monomial left = readFactor(pair->leftFirst, pair->star - 1);
+    const Monomial right = readFactor(pair->star + 1, pair->rightLast);
     return numberPowerOf(left.numText).exponent != 1 || numberPowerOf(right.numText).exponent != 1;
 }
 

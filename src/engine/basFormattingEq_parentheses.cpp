@@ -72,7 +72,7 @@ std::string starredText(const ExprGroup& record) {
 
 // --- the factor in front -----------------------------------------------------------------------
 
-Factor factorInFront(const ExprGroup& record) {
+Monomial factorInFront(const ExprGroup& record) {
     return {std::fabs(record.prefixNumerator), record.prefixDenominator, withoutExponentOne(record.prefixText),
             withoutExponentOne(record.prefixDenText)};
 }
@@ -81,7 +81,7 @@ Factor factorInFront(const ExprGroup& record) {
 // in, it can still cancel against the letters of the terms. e.g. 4/2(x+1) -> 2(x+1)
 void reduceFactor(int depth, int group) {
     const ExprGroup& record = groupOf(depth, group);
-    const Factor factor = factorInFront(record);
+    const Monomial factor = factorInFront(record);
     const bool onlySign = record.openIndex - record.prefixStart == 1;
     if (onlySign || factor.numerator == 0 || contains(factor.numText, "^-")) return;
     const std::string lowest =
@@ -93,7 +93,7 @@ void reduceFactor(int depth, int group) {
 }
 
 // e.g. "Multiply the 3 by each one of the terms inside the parenthesis."
-std::string distributionNote(const Factor& factor, int terms) {
+std::string distributionNote(const Monomial& factor, int terms) {
     return "Multiply the " + markupOf(plainText(factor)) + " by " +
            (terms == 1 ? "the term inside the parenthesis." : "each one of the terms inside the parenthesis.");
 }
@@ -101,12 +101,12 @@ std::string distributionNote(const Factor& factor, int terms) {
 // The whole text with the factor multiplied into the terms. e.g. +3(+x-2) -> "+(+3x-6)"
 std::string distributedText(int depth, int group) {
     const ExprGroup& record = groupOf(depth, group);
-    Factor factor = factorInFront(record);
+    Monomial factor = factorInFront(record);
     if (record.prefixCoef < 0) factor.numerator = -factor.numerator;
     const std::string& opening = token(record.prefixStart);
     std::string text = tokensText(0, record.prefixStart - 1) + (IsSign(opening) ? "+" : opening) + "(";
     for (int term = 1; term <= ws.TermLast[depth][group]; ++term) {
-        text += signedText(product(factor, factorOf(termOf(depth, group, term))));
+        text += signedText(product(factor, monomialOf(termOf(depth, group, term))));
     }
     return text + tokensText(record.closeIndex, ws.TokenLast);
 }

@@ -67,8 +67,8 @@ std::string rootProduct(const std::string& a, const std::string& b) {
 
 // --- the notes of a product --------------------------------------------------------------------
 
-Factor firstFactor(int depth, int group) {
-    return factorOf(termOf(depth, group, 1));
+Monomial firstFactor(int depth, int group) {
+    return monomialOf(termOf(depth, group, 1));
 }
 
 // e.g. (x+1)(x+2) "Multiply the polynomials together ..."; (3)(4) "Multiply the 3 by 4 to form ..."
@@ -78,8 +78,8 @@ std::string multiplicationNote(int depth, int groupA, int groupB) {
     if (!oneInA && !oneInB) {
         return "Multiply the polynomials together by multiplying each term of the first by every term in the second.";
     }
-    const Factor a = firstFactor(depth, groupA);
-    const Factor b = firstFactor(depth, groupB);
+    const Monomial a = firstFactor(depth, groupA);
+    const Monomial b = firstFactor(depth, groupB);
     if (!oneInA || !oneInB) {
         return "Multiply the polynomial inside the parenthesis by " + markupOf(plainText(oneInA ? a : b)) + ".";
     }
@@ -132,28 +132,28 @@ std::string factorsOfPower(int depth, int group) {
 
 // --- factors -----------------------------------------------------------------------------------
 
-Factor factorOf(const ExprTerm& term) {
+Monomial monomialOf(const ExprTerm& term) {
     return {term.numerator, term.denominator, withoutExponentOne(term.numText), withoutExponentOne(term.denText)};
 }
 
-Factor product(const Factor& a, const Factor& b) {
+Monomial product(const Monomial& a, const Monomial& b) {
     return {a.numerator * b.numerator, a.denominator * b.denominator, MultiplyLetterParts(a.numText, b.numText),
             MultiplyLetterParts(a.denText, b.denText)};
 }
 
-std::string plainText(const Factor& factor) {
+std::string plainText(const Monomial& factor) {
     if (factor.numerator == 0) return "0";
     std::string text = textOf(factor.numerator) + factor.numText;
     if (factor.denominator != 1 || !factor.denText.empty()) text += "/" + textOf(factor.denominator) + factor.denText;
     return text;
 }
 
-std::string unsignedText(Factor factor) {
+std::string unsignedText(Monomial factor) {
     factor.numerator = std::fabs(factor.numerator);
     return plainText(factor);
 }
 
-std::string signedText(const Factor& factor) {
+std::string signedText(const Monomial& factor) {
     return (factor.numerator < 0 ? "-" : "+") + unsignedText(factor);
 }
 
@@ -169,7 +169,7 @@ NumberPower numberPowerOf(const std::string& numText) {
     return {static_cast<float>(lenientValueOf(numText.substr(1, end - 1))), numText.substr(end)};
 }
 
-std::string writtenOutPower(const Factor& base, const std::string& fractionText) {
+std::string writtenOutPower(const Monomial& base, const std::string& fractionText) {
     const auto [exponent, letters] = numberPowerOf(base.numText);
     const float top = std::fabs(base.numerator);
     const bool wholeFraction = !fractionText.empty();
@@ -242,11 +242,11 @@ std::string MultiplyLetterParts(const std::string& a, const std::string& b) {
 void MultiplyGroups(int depth, int groupA, int groupB) {
     ws.StepClass = 2;
     ws.CurrentNote = multiplicationNote(depth, groupA, groupB);
-    BoundedArray<Factor, lastTerm> products;  // from slot 1
+    BoundedArray<Monomial, lastTerm> products;  // from slot 1
     int count = 0;
     for (int i = 1; i <= ws.TermLast[depth][groupA]; ++i) {
         for (int j = 1; j <= ws.TermLast[depth][groupB]; ++j) {
-            products[++count] = product(factorOf(termOf(depth, groupA, i)), factorOf(termOf(depth, groupB, j)));
+            products[++count] = product(monomialOf(termOf(depth, groupA, i)), monomialOf(termOf(depth, groupB, j)));
         }
     }
     std::string text = tokensText(0, groupOf(depth, groupA).openIndex);

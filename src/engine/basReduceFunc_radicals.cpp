@@ -47,7 +47,7 @@ std::int64_t radicandOf(const ExprTerm& term) {
 }
 
 std::string termText(const ExprTerm& term) {
-    return term.lead + unsignedText(factorOf(term));
+    return term.lead + unsignedText(monomialOf(term));
 }
 
 // A rewritten root: the term with the factor outside still to be multiplied, and the term with the
@@ -186,7 +186,7 @@ void ExpandPowers(int group) {
             continue;
         }
         zeroPower = zeroPower || numberPowerOf(term.numText).exponent == 0;
-        text += term.lead + writtenOutPower(factorOf(term), term.fractionText);
+        text += term.lead + writtenOutPower(monomialOf(term), term.fractionText);
     }
     ExplodeTokens(text + textFrom(record));
     ws.CurrentNote =
@@ -218,7 +218,7 @@ bool AbsoluteValueStep(int group) {
     const ExprTerm& term = termOf(depth, group, 1);
     if (!groupOf(depth, group).isAbsolute || ws.TermLast[depth][group] != 1 || !isPlainNumber(term)) return false;
     const float value = term.numerator;
-    const std::string size = markupOf(unsignedText(factorOf(term)));
+    const std::string size = markupOf(unsignedText(monomialOf(term)));
     TakeAbsoluteValue(depth, group);
     if (value == 0) {
         ws.CurrentNote = "The absolute value of 0 is 0.";
@@ -240,7 +240,7 @@ void TakeAbsoluteValue(int depth, int group) {
     const bool factorBefore = !before.empty() && !IsOperator(before) && before != "(" && before != "=";
     const bool factorBehind = !after.empty() && after[0] >= '0' && after[0] <= '9';
     ExplodeTokens(tokensText(0, record.openIndex - 1) + (factorBefore ? "*" : "") +
-                  unsignedText(factorOf(termOf(depth, group, 1))) + (factorBehind ? "*" : "") +
+                  unsignedText(monomialOf(termOf(depth, group, 1))) + (factorBehind ? "*" : "") +
                   tokensText(record.closeIndex + 1, ws.TokenLast));
 }
 
