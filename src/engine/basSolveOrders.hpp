@@ -33,7 +33,7 @@ void EvaluatePolynomial();
 // e.g. 2x+(3+4)=5 -> 2x+(7)=5 -> 2x+7=5
 void ReduceAllGroups();
 // Both sides reduced: group by group when PlainSum is set, else as polynomials. e.g. x+2+3=7 -> x+5=7
-void ExpandBothSides(const std::string& variable);
+void ExpandBothSides();
 // Solves the equation in the TokenBuffer for a variable. True if it came down to that variable on
 // the left; false for an identity, a contradiction and a polynomial that was factored.
 // e.g. 2x+3=7 -> x=2; x+1=x+2 -> 1$2
@@ -52,5 +52,7 @@ bool SolveForRight(const std::string& variable, bool all);
 // Divides by the coefficient of the left side's first term: the division as a step, and its result.
 // e.g. 2x=4 -> #2x/[2]#=#4/[2]# -> x=2
 void DivideBothSides(const std::string& variable);
+// Records a line that is no form of the TokenBuffer, such as the division itself. Fault 9 at step 201.
+void writeStep(const std::string& line, const std::string& note);
 
 }  // namespace ordwise
