@@ -23,24 +23,26 @@ struct Distance {
 };
 
 struct SurfaceOffsets {
-    int indentBlanks;           // printed before the line
-    double indent;              // added to CurrentX before the line
-    Distance moveDown;          // before a line; the result is the base line of the line
-    Distance moveDownFraction;  // the same for a line that holds a "/"
-    double breakAt;             // a plain character that ends beyond it breaks the line
-    double breakX;              // where the rest of a broken line begins
-    double breakDown;           // and how far below
-    double pageFull;            // a pen below it needs the next page
-    bool pageTestFirst;         // the page test comes before each plain character
-    double exponentSize;        // points
-    bool exponentRelative;      // the size is the current one less `exponentSize`
-    Distance exponentRaise;     // by the size of the exponent
+    int indentBlanks = 0;           // printed before the line
+    double indent = 0;              // added to CurrentX before the line
+    Distance moveDown;              // before a line; the result is the base line of the line
+    Distance moveDownFraction;      // the same for a line that holds a "/"
+    double breakAt = 0;             // a plain character that ends beyond it breaks the line
+    double breakX = 0;              // where the rest of a broken line begins
+    double breakDown = 0;           // and how far below
+    double pageFull = 0;            // a pen below it needs the next page
+    bool pageTestFirst = false;     // the page test comes before each plain character
+    double exponentSize = 0;        // points
+    bool exponentRelative = false;  // the size is the current one less `exponentSize`
+    Distance exponentRaise;         // by the size of the exponent
     Distance numeratorRaise;
     Distance denominatorDrop;
     Distance radicalBarRaise;
     Distance radicalBarStart;
-    double tallSignUp, tallSignRight;   // before the upper part of a tall radical
-    double tallSignDown, tallSignLeft;  // behind it
+    double tallSignUp = 0;  // before the upper part of a tall radical
+    double tallSignRight = 0;
+    double tallSignDown = 0;  // behind it
+    double tallSignLeft = 0;
 };
 
 extern const SurfaceOffsets worksheetOffsets;
