@@ -86,13 +86,16 @@ void PrimeFactorization(const std::string& n) {
     // Divisors above the root of the rest need no trial: what is left then is the last prime, which
     // already stands at the end of the line. A number with decimals has no whole divisor at all.
     double rest = valueOf(n);
+    double divisor = 2;
     std::string primes;
-    for (double d = 2; d * d <= std::abs(rest); ++d) {
-        while (std::fmod(rest, d) == 0 && d * d <= std::abs(rest)) {
-            rest /= d;
-            primes += text(d, "*");
-            AddStep(text(primes, rest), text("Extract all the prime numbers from ", n, "."));
+    while (divisor * divisor <= std::abs(rest)) {
+        if (std::fmod(rest, divisor) != 0) {
+            divisor += 1;
+            continue;
         }
+        rest /= divisor;
+        primes += text(divisor, "*");
+        AddStep(text(primes, rest), text("Extract all the prime numbers from ", n, "."));
     }
     if (primes.empty()) {
         AddStep(text(n, " is already a prime factor."), text("No prime numbers can be factored out of ", n, "."));
