@@ -1,0 +1,102 @@
+// Reading requests from JSON: every field may be missing, wrong or of another type.
+#include "Requests.hpp"
+
+#include "NumberText.hpp"
+
+#include <exception>
+#include <functional>
+
+namespace ordwise {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+const nlohmann::json* member(const nlohmann::json& object, const char* name) {
+    const auto found = object.find(name);
+    return found == object.end() || found->is_null() ? nullptr : &*found;
+}
+
+std::string textMember(const nlohmann::json& request, const char* name, bool needed = false) {
+    const nlohmann::json* value = member(request, name);
+    if (value == nullptr) {
+        if (needed) throw BadRequest("The request has no \"" + std::string(name) + "\".");
+        return {};
+    }
+    if (!value->is_string()) throw BadRequest("\"" + std::string(name) + "\" must be a text.");
+    return value->get<std::string>();
+}
+
+bool flagMember(const nlohmann::json& request, const char* name) {
+    const nlohmann::json* value = member(request, name);
+    if (value == nullptr) return false;
+    if (!value->is_boolean()) throw BadRequest("\"" + std::string(name) + "\" must be true or false.");
+    return value->get<bool>();
+}
+
+// Numbers and booleans count as the text that they would be written as.
+std::string plainText(const nlohmann::json& value, const std::string& name) {
+    if (value.is_string()) return value.get<std::string>();
+    if (value.is_boolean()) return value.get<bool>() ? "True" : "False";
+    if (value.is_number()) return textOf(value.get<double>());
+    throw BadRequest("\"" + name + "\" must be a text or a number.");
+}
+
+int wholeNumber(const std::string& text, const std::string& name) {
+    if (text.empty() || text.size() > 4 || text.find_first_not_of("0123456789") != std::string::npos)
+        throw BadRequest("\"" + name + "\" must be a whole number, not \"" + text + "\".");
+    return std::stoi(text);
+}
+
+void eachMember(const nlohmann::json& request, const char* name,
+                const std::function<void(const std::string& key, const std::string& value)>& take) {
+    const nlohmann::json* object = member(request, name);
+    if (object == nullptr) return;
+    if (!object->is_object()) throw BadRequest("\"" + std::string(name) + "\" must be an object.");
+    for (const auto& [key, value] : object->items()) take(key, plainText(value, key));
+}
+
+SolveRequest solveRequest(const nlohmann::json& request) {
+    SolveRequest result;
+    result.topic = textMember(request, "topic", true);
+    result.problem = textMember(request, "problem");
+    result.dropRefused = flagMember(request, "dropRefused");
+    eachMember(request, "boxes", [&](const std::string& key, const std::string& value) {
+        result.boxes[wholeNumber(key, "boxes")] = value;
+    });
+    eachMember(request, "combos", [&](const std::string& key, const std::string& value) {
+        result.combos[wholeNumber(key, "combos")] = wholeNumber(value, "combos");
+    });
+    eachMember(request, "settings",
+               [&](const std::string& key, const std::string& value) { result.settings[key] = value; });
+    if (const nlohmann::json* answers = member(request, "answers")) {
+        if (!answers->is_array()) throw BadRequest("\"answers\" must be an array.");
+        for (const nlohmann::json& answer : *answers) result.answers.push_back(plainText(answer, "answers"));
+    }
+    return result;
+}
+
+Json dispatch(const nlohmann::json& request) {
+    if (!request.is_object()) throw BadRequest("A request must be a JSON object.");
+    const std::string op = textMember(request, "op", true);
+    if (op == "solve") return answerSolve(solveRequest(request));
+    if (op == "keys") return answerKeys({textMember(request, "topic", true), textMember(request, "text", true)});
+    throw BadRequest("There is no op \"" + op + "\"; it is solve or keys.");
+}
+
+}  // namespace
+
+Json answerRequest(const nlohmann::json& request) {
+    try {
+        return dispatch(request);
+    } catch (const std::exception& trouble) {
+        return Json{{"error", trouble.what()}};
+    }
+}
+
+Json answerLine(const std::string& line) {
+    const nlohmann::json request = nlohmann::json::parse(line, nullptr, false);
+    if (request.is_discarded()) return Json{{"error", "The line is no valid JSON."}};
+    return answerRequest(request);
+}
+
+}  // namespace ordwise

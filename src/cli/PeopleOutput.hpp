@@ -1,0 +1,20 @@
+// Answers as people read them.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <iosfwd>
+
+namespace ordwise {
+
+// The problem, each step on a line with its note indented below it, and a final line.
+void printSolution(const nlohmann::ordered_json& answer, std::ostream& out);
+// Each key with what stands on the paper after it, or the reason of its refusal.
+void printKeys(const nlohmann::ordered_json& answer, std::ostream& out);
+// A topic a line: code and name.
+void printTopics(const nlohmann::ordered_json& answer, std::ostream& out);
+
+// The one sentence for a problem that was not solved. e.g. The key "q" (at 3) was refused: ...
+[[nodiscard]] std::string failureSentence(const nlohmann::ordered_json& answer);
+
+}  // namespace ordwise

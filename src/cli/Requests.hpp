@@ -1,0 +1,56 @@
+// Requests and their answers, as the terminal, a script or a worksheet server makes them. Each is
+// answered as a freshly started program would answer it.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace ordwise {
+
+// A request that cannot be read; the text is one sentence for whoever made it.
+class BadRequest : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The questions of a solve were more than the answers given. One sentence.
+class AnswersUsedUp : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct SolveRequest {
+    std::string topic;
+    std::string problem;                          // flat, or as the paper draws it
+    std::map<int, std::string> boxes;             // by number, 1 to 6
+    std::map<int, int> combos;                    // by number, 1 to 3: the index selected
+    std::vector<std::string> answers;             // to the input boxes, in order
+    std::map<std::string, std::string> settings;  // by key of the per-user store
+    bool dropRefused = false;                     // type on without the refused keys
+};
+
+struct KeysRequest {
+    std::string topic;
+    std::string text;  // every character a key; a backspace is U+0008
+};
+
+// The answers as JSON objects, keys in the documented order. They throw BadRequest for an unknown
+// topic (naming the nearest ones), a box, combo or setting that there is not, and AnswersUsedUp.
+[[nodiscard]] nlohmann::ordered_json answerSolve(const SolveRequest& request);
+[[nodiscard]] nlohmann::ordered_json answerKeys(const KeysRequest& request);
+[[nodiscard]] nlohmann::ordered_json answerTopics();
+
+// A request of a batch: {"op": "solve" or "keys", "topic": ..., ...}. Never throws for bad input:
+// a request that cannot be read is answered with {"error": "..."}.
+[[nodiscard]] nlohmann::ordered_json answerRequest(const nlohmann::json& request);
+// The same for one line of text.
+[[nodiscard]] nlohmann::ordered_json answerLine(const std::string& line);
+
+// Whether a solve came to its end: no key or box refused, Solve enabled, no message box.
+[[nodiscard]] bool wasSolved(const nlohmann::ordered_json& answer);
+
+}  // namespace ordwise

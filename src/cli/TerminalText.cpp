@@ -1,0 +1,89 @@
+#include "TerminalText.hpp"
+
+#include "NumberText.hpp"
+
+namespace ordwise {
+namespace {
+
+bool isWordEnd(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || c == ')';
+}
+
+// Something that can stand beside a "/" or behind a "√" as it is: a number, a word, or one pair of
+// parentheses around everything.
+bool isSimple(std::string_view text) {
+    if (IsNumeric(text)) return text.front() != '-';
+    if (text.size() > 1 && text.front() == '(' && text.find(')') == text.size() - 1) return true;
+    return !text.empty() && text.find_first_of("+-*/ ()<>=") == std::string_view::npos;
+}
+
+std::string wrapped(const std::string& text) {
+    return isSimple(text) ? text : "(" + text + ")";
+}
+
+std::string exponent(std::string_view content) {
+    if (content == "o") return "°";
+    const bool plain = IsNumeric(content) || content.size() == 1;
+    return "^" + (plain ? std::string(content) : "(" + std::string(content) + ")");
+}
+
+// The last "/" outside of parentheses, as the paper splits a fraction.
+std::size_t barOf(std::string_view content) {
+    int depth = 0;
+    std::size_t bar = std::string_view::npos;
+    for (std::size_t i = 0; i < content.size(); ++i) {
+        if (content[i] == '(') ++depth;
+        if (content[i] == ')') --depth;
+        if (content[i] == '/' && depth == 0) bar = i;
+    }
+    return bar;
+}
+
+std::string fraction(std::string_view content) {
+    const std::size_t bar = barOf(content);
+    if (bar == std::string_view::npos) return terminalText(content);
+    const std::string top = terminalText(content.substr(0, bar));
+    return (top.starts_with('-') && isSimple(top.substr(1)) ? top : wrapped(top)) + "/" +
+           wrapped(terminalText(content.substr(bar + 1)));
+}
+
+std::string construct(char mark, std::string_view content) {
+    if (mark == '^') return exponent(content);
+    if (mark == '~') return "√" + wrapped(terminalText(content));
+    return fraction(content);
+}
+
+std::string glyph(char c) {
+    switch (c) {
+        case '`': return "π";
+        case '\\': return "±";
+        case '{': return "÷";
+        case '[':
+        case ']': return "";
+        default: return std::string(1, c);
+    }
+}
+
+}  // namespace
+
+std::string terminalText(std::string_view markup) {
+    std::string out;
+    for (std::size_t i = 0; i < markup.size(); ++i) {
+        const char c = markup[i];
+        const bool opens = c == '#' || c == '^' || c == '~';
+        const std::size_t end = opens ? markup.find(c, i + 1) : std::string_view::npos;
+        if (end == std::string_view::npos) {
+            out += glyph(c);
+            continue;
+        }
+        // A number before a fraction is a mixed number; a letter behind one would slip under its bar.
+        if (c == '#' && !out.empty() && isWordEnd(out.back())) out += ' ';
+        std::string piece = construct(c, markup.substr(i + 1, end - i - 1));
+        if (c == '#' && end + 1 < markup.size() && isWordEnd(markup[end + 1])) piece = "(" + piece + ")";
+        out += piece;
+        i = end;
+    }
+    return out;
+}
+
+}  // namespace ordwise
