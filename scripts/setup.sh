@@ -51,41 +51,39 @@ missing() {
     printf '%s' "${list# }"
 }
 
-# Runs apt-get as whoever may: root, or somebody whose sudo asks nothing, or asks at a terminal.
-as_root() {
+# Sets `as_root` to what makes a command root's: nothing for root, sudo where it asks nothing, or
+# where there is a terminal to ask at.
+find_root() {
     if [ "$(id -u)" = 0 ]; then
-        "$@"
+        as_root=()
     elif have sudo && sudo -n true 2>/dev/null; then
-        sudo -n "$@"
+        as_root=(sudo -n)
     elif have sudo && [ -t 0 ] && [ -t 2 ] && [ -z "${CI:-}" ]; then
-        sudo "$@"
+        as_root=(sudo)
     else
-        return 126
+        return 1
     fi
 }
 
-apt() { as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=120 "$@" >&2; }
+apt() { "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=120 "$@" >&2; }
 
 # Installs the named packages. Returns 0 when all of them are there in the end, and otherwise says
 # in a sentence why not.
 install() {
-    local status
     if ! have apt-get; then
         say "There is no apt-get here to install them with."
         return 1
     fi
-    say "Installing with apt-get: $*"
-    apt update
-    status=$?
-    if [ $status = 126 ]; then
+    if ! find_root; then
         say "They cannot be installed from here: that takes root, or sudo without a password."
         return 1
     fi
-    if ! apt install -y --no-install-recommends "$@"; then
+    say "Installing with apt-get: $*"
+    apt update  # old lists may still do
+    if ! apt install -y --no-install-recommends "$@" || [ -n "$(missing "$@")" ]; then
         say "apt-get could not install them."
         return 1
     fi
-    [ -z "$(missing "$@")" ]
 }
 
 # What no part of Ordwise can be built without.
