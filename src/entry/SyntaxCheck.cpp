@@ -1,7 +1,6 @@
 // From a key to its rule, and from a refusal to the sentence that the student reads.
 #include "SyntaxCheck.hpp"
 
-#include "NumberText.hpp"
 #include "TextTools.hpp"
 #include "TokenPredicates.hpp"
 #include "Workspace.hpp"
