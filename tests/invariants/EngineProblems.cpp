@@ -5,6 +5,16 @@ namespace ordwise::test {
 
 namespace {
 
+// A line on the paper is full at some fifty characters; a longer problem is drawn anew.
+constexpr std::size_t longestProblem = 40;
+
+template <class Make>
+std::string shortEnough(Make make) {
+    std::string typed = make();
+    while (typed.size() > longestProblem) typed = make();
+    return typed;
+}
+
 // How many terms: mostly a few, so that the smallest example of a fault is small.
 int fewTerms(Draws& draws) {
     return draws.chance(70) ? draws.between(1, 3) : draws.between(1, 6);
@@ -172,7 +182,8 @@ std::string negativeExponentTerm(Draws& draws) {
 }  // namespace
 
 Problem arithmeticProblem(Draws& draws) {
-    return {"Arithmetic", sumOf(draws, fewTerms(draws), [&] { return arithmeticTerm(draws); })};
+    const auto make = [&] { return sumOf(draws, fewTerms(draws), [&] { return arithmeticTerm(draws); }); };
+    return {"Arithmetic", shortEnough(make)};
 }
 
 Problem fractionProblem(Draws& draws) {
@@ -189,11 +200,13 @@ Problem fractionProblem(Draws& draws) {
 }
 
 Problem exponentProblem(Draws& draws) {
-    return {"Calculating With Exponents", sumOf(draws, fewTerms(draws), [&] { return exponentTerm(draws); })};
+    const auto make = [&] { return sumOf(draws, fewTerms(draws), [&] { return exponentTerm(draws); }); };
+    return {"Calculating With Exponents", shortEnough(make)};
 }
 
 Problem rootProblem(Draws& draws) {
-    return {"Calculating Roots", sumOf(draws, fewTerms(draws), [&] { return rootTerm(draws); })};
+    const auto make = [&] { return sumOf(draws, fewTerms(draws), [&] { return rootTerm(draws); }); };
+    return {"Calculating Roots", shortEnough(make)};
 }
 
 Problem exponentialNotationProblem(Draws& draws) {
@@ -215,7 +228,8 @@ Problem equationProblem(Draws& draws) {
 
 Problem polynomialProblem(Draws& draws) {
     const int depth = draws.chance(40) ? 0 : draws.between(1, 2);
-    return {"Simplifying Polynomials", sumOf(draws, fewTerms(draws), [&] { return polynomialPart(draws, depth); })};
+    const auto make = [&] { return sumOf(draws, fewTerms(draws), [&] { return polynomialPart(draws, depth); }); };
+    return {"Simplifying Polynomials", shortEnough(make)};
 }
 
 Problem evaluationProblem(Draws& draws) {
@@ -244,16 +258,19 @@ Problem linearGraphProblem(Draws& draws) {
 }
 
 Problem absoluteValueProblem(Draws& draws) {
-    return {"Absolute Values", sumOf(draws, draws.between(1, 3), [&] { return absoluteTerm(draws); })};
+    const auto make = [&] { return sumOf(draws, draws.between(1, 3), [&] { return absoluteTerm(draws); }); };
+    return {"Absolute Values", shortEnough(make)};
 }
 
 Problem complexArithmeticProblem(Draws& draws) {
     const int depth = draws.between(0, 2);
-    return {"Complex Arithmetic Expressions", sumOf(draws, fewTerms(draws), [&] { return complexPart(draws, depth); })};
+    const auto make = [&] { return sumOf(draws, fewTerms(draws), [&] { return complexPart(draws, depth); }); };
+    return {"Complex Arithmetic Expressions", shortEnough(make)};
 }
 
 Problem negativeExponentProblem(Draws& draws) {
-    return {"Negative Exponents", sumOf(draws, draws.between(1, 3), [&] { return negativeExponentTerm(draws); })};
+    const auto make = [&] { return sumOf(draws, draws.between(1, 3), [&] { return negativeExponentTerm(draws); }); };
+    return {"Negative Exponents", shortEnough(make)};
 }
 
 Problem mashedProblem(Draws& draws, const std::string& topic, const std::string& keys) {

@@ -1,7 +1,7 @@
 // Random problems of the topics that the engine solves, each legal key by key.
 //
 // They are school problems, made from a grammar of what the check lets through, mostly small and now
-// and then as large and odd as it allows. The same draws make the same problems.
+// and then as large and odd as it allows.
 #pragma once
 
 #include "Draws.hpp"

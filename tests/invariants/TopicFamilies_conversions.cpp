@@ -1,6 +1,8 @@
 // Units, prefixes and temperatures. The factors are the program's own, some of them approximate.
 #include "TopicFamilies.hpp"
 
+#include <cmath>
+
 namespace ordwise::test {
 
 namespace {
@@ -12,9 +14,9 @@ struct Unit {
     const char* topic;
     double factor;
     int places;
+    double secondStage = 0;  // the factor of a second stage, which begins with the rounded first
 };
 
-// Two stages round twice, so those are held to a coarser place: what the first rounding may move.
 constexpr Unit units[] = {
     {"Converting Grams To Ounces", 0.03524, asSet},
     {"Converting Kilometers To Miles", 0.621, asIs},
@@ -26,23 +28,23 @@ constexpr Unit units[] = {
     {"Converting Feet To Meters", 1 / 3.3, asSet},
     {"Converting Inches To Meters", 1 / 39.37, asSet},
     {"Converting Tons To Pounds", 2000, asSet},
-    {"Converting Tons To Ounces", 32000, asSet},
+    {"Converting Tons To Ounces", 32000, asSet, 16},
     {"Converting Pounds To Tons", 1.0 / 2000, 5},
     {"Converting Pounds To Ounces", 16, asSet},
-    {"Converting Ounces To Tons", 1.0 / 32000, asSet},
+    {"Converting Ounces To Tons", 1.0 / 32000, asSet, 1.0 / 2000},
     {"Converting Ounces To Pounds", 1.0 / 16, asSet},
     {"Converting Miles To Yards", 1760, asIs},
     {"Converting Miles To Feet", 5280, asIs},
-    {"Converting Miles To Inches", 63360, asIs},
+    {"Converting Miles To Inches", 63360, asIs, 12},
     {"Converting Yards To Miles", 1.0 / 1760, 5},
     {"Converting Yards To Feet", 3, asIs},
-    {"Converting Yards To Inches", 36, asIs},
+    {"Converting Yards To Inches", 36, asIs, 12},
     {"Converting Feet To Miles", 1.0 / 5280, 5},
     {"Converting Feet To Yards", 1.0 / 3, asIs},
     {"Converting Feet To Inches", 12, asIs},
     {"Converting Inches To Feet", 1.0 / 12, 2},
-    {"Converting Inches To Yards", 1.0 / 36, asSet},
-    {"Converting Inches To Miles", 1.0 / 63360, 5},
+    {"Converting Inches To Yards", 1.0 / 36, asSet, 1.0 / 3},
+    {"Converting Inches To Miles", 1.0 / 63360, 5, 1.0 / 5280},
     {"Converting Grams To Pounds", 1.0 / 454, 3},
 };
 
@@ -53,8 +55,7 @@ DrawnProblem drawConversion(const Unit& unit, Draws& draws) {
     const int places = placesFor(draws, drawn.problem);
     drawn.wanted.last = valueText(text) * unit.factor;
     drawn.wanted.places = unit.places == asSet ? places : unit.places;
-    // The feet of an inch conversion are rounded before they are divided by 3 or 5280.
-    if (drawn.problem.topic == "Converting Inches To Yards") drawn.wanted.places = places - 0.2;
+    drawn.wanted.slack = 0.5 * std::pow(10.0, -places) * unit.secondStage;
     return drawn;
 }
 

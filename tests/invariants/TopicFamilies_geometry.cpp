@@ -160,6 +160,10 @@ DrawnProblem drawRightTriangle(Draws& draws) {
     return drawn;
 }
 
+double roundedToTwo(double x) {
+    return std::nearbyint(x * 100) / 100;
+}
+
 // a1 = T3, b1 = T2, c1 = T1; a2 = T4, b2 = T6, c2 = T5, one of the last three left empty. The last
 // line gives the last side that is not the known one.
 DrawnProblem drawSimilarTriangles(Draws& draws) {
@@ -187,7 +191,7 @@ DrawnProblem drawSimilarTriangles(Draws& draws) {
         return drawn;
     }
     // The ratio is shown and used with two places; a ratio that rounds to 0 divides by 0.
-    const double ratio = std::nearbyint(first[known] / second[known] * 100) / 100;
+    const double ratio = roundedToTwo(first[known] / second[known]);
     if (ratio == 0) {
         drawn.wanted.message = "Division by 0!";
         return drawn;

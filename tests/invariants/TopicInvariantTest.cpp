@@ -23,6 +23,12 @@ bool mayStandWithoutNote(const Problem& problem, const Complaint& complaint) {
     return complaint.detail.find("= 1") != std::string::npos || complaint.detail.find("equals 1") != std::string::npos;
 }
 
+// The mean of one number repeats its fraction: there is nothing to add.
+bool mayStandTwice(const Problem& problem, const Complaint& complaint) {
+    const bool oneNumber = problem.typed.find(',') == std::string::npos;
+    return complaint.kind == "a line stands twice" && oneNumber && complaint.detail.rfind("Average = ", 0) == 0;
+}
+
 TEST(TopicInvariant, EveryScriptedTopicGivesTheAnswerOfPlainArithmetic) {
     Survey book;
     for (const auto& generate : topicGenerators()) {
@@ -32,7 +38,9 @@ TEST(TopicInvariant, EveryScriptedTopicGivesTheAnswerOfPlainArithmetic) {
             const Solution solution = solve(drawn.problem);
             Complaints found = commonComplaints(drawn.problem, solution);
             dropForeseen(found, drawn.wanted);
-            std::erase_if(found, [&](const Complaint& one) { return mayStandWithoutNote(drawn.problem, one); });
+            std::erase_if(found, [&](const Complaint& one) {
+                return mayStandWithoutNote(drawn.problem, one) || mayStandTwice(drawn.problem, one);
+            });
             if (found.empty()) found = answerComplaints(drawn.wanted, solution);
             book.add(drawn.problem, solution, found);
         }

@@ -21,9 +21,9 @@ bool isSignAt(const std::string& line, std::size_t i) {
     return i == 0 || line[i - 1] == ' ' || line[i - 1] == '(' || line[i - 1] == '^' || line[i - 1] == '#';
 }
 
-bool near(double got, double wanted, double places) {
-    const double half = 0.5 * std::pow(10.0, -places);
-    return std::fabs(got - wanted) <= half * (1 + 1e-6) + 1e-12 * std::fabs(wanted);
+bool near(double got, double number, const Wanted& wanted) {
+    const double half = 0.5 * std::pow(10.0, -wanted.places);
+    return std::fabs(got - number) <= half * (1 + 1e-6) + 1e-12 * std::fabs(number) + wanted.slack;
 }
 
 }  // namespace
@@ -54,7 +54,7 @@ Complaints answerComplaints(const Wanted& wanted, const Solution& solution) {
     const std::string& line = solution.last();
     const auto numbers = numbersIn(line);
     const auto hold = [&](const std::optional<double>& number, double got) {
-        if (number && !near(got, *number, wanted.places)) {
+        if (number && !near(got, *number, wanted)) {
             found.push_back({"the answer is wrong", line + ", wanted " + std::to_string(*number)});
         }
     };

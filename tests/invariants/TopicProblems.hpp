@@ -19,6 +19,7 @@ struct Wanted {
     std::optional<double> first;  // the first number in the line
     std::optional<double> last;   // the last number in the line
     double places = 15;           // to which `first` and `last` are rounded
+    double slack = 0;             // what the rounding of an earlier stage may have moved
     std::string line;             // the whole line
     std::string part;             // a piece of it
     std::string message;          // the caption of the message box that ends the solve
