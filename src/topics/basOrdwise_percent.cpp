@@ -1,4 +1,5 @@
 // The percent topics. Bracketed factors are those applied to both sides: they stand out in red.
+#include "Fault.hpp"
 #include "FractionSolvers.hpp"
 #include "PercentSolvers.hpp"
 #include "StepDisplay.hpp"
