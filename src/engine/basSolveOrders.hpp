@@ -10,6 +10,9 @@ namespace ordwise {
 // Simplest form of one group of MaxDepth, one visible step at a time. silent records no ordinary
 // step; stopFlag is handed to ReduceGroup. e.g. 2+12-5 -> 14-5 -> 9
 void ReduceExpression(int group, bool silent = false, bool stopFlag = false);
+// The walk over all groups, deepest first, for the sides of an equation.
+// e.g. 2x+(3+4)=5 -> 2x+(7)=5 -> 2x+7=5
+void ReduceAllGroups();
 
 // --- polynomials: basSolveOrders_polynomial.cpp
 
@@ -29,9 +32,6 @@ void EvaluatePolynomial();
 
 // --- equations: basSolveOrders_equations.cpp
 
-// The walk over all groups, deepest first, for the sides of an equation.
-// e.g. 2x+(3+4)=5 -> 2x+(7)=5 -> 2x+7=5
-void ReduceAllGroups();
 // Both sides reduced: group by group when PlainSum is set, else as polynomials. e.g. x+2+3=7 -> x+5=7
 void ExpandBothSides();
 // Solves the equation in the TokenBuffer for a variable. True if it came down to that variable on

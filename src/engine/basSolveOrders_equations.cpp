@@ -238,27 +238,6 @@ bool solveByFactoring(int degree) {
 
 // --- both sides --------------------------------------------------------------------------------
 
-void ReduceAllGroups() {
-    ws.StepClass = 1;
-    CommitStep({.silent = true});
-    const int depth = ws.MaxDepth;
-    for (int group = 0; ws.MaxDepth == depth && group <= ws.GroupTable[depth].lastGroup; ++group) {
-        if (ws.GroupProduct[depth][group]) OrderPolynomial(group);
-        ReduceExpression(group);
-    }
-    for (int level = ws.MaxDepth; level > 0; --level) {
-        for (int group = 0; ws.MaxDepth == level && group <= ws.GroupTable[level].lastGroup; ++group) {
-            if (groupOf(level, group).isAbsolute) {
-                AbsoluteValueStep(group);
-            } else {
-                RemoveParentheses();
-                CommitStep();
-            }
-        }
-    }
-    ReduceExpression(0);
-}
-
 void ExpandBothSides() {
     for (const int side : {0, 1}) {
         ws.CurrentSide = side;
