@@ -164,40 +164,31 @@ double roundedToTwo(double x) {
     return std::nearbyint(x * 100) / 100;
 }
 
-// a1 = T3, b1 = T2, c1 = T1; a2 = T4, b2 = T6, c2 = T5, one of the last three left empty. The last
-// line gives the last side that is not the known one.
+// a1 = T3, b1 = T2, c1 = T1; a2 = T4, b2 = T6, c2 = T5. With a2 given and one of the other two, the
+// last line gives c2.
 DrawnProblem drawSimilarTriangles(Draws& draws) {
     DrawnProblem drawn{{"Similar Triangles", ""}, {}};
-    static constexpr int firstBoxes[] = {3, 2, 1};
-    static constexpr int secondBoxes[] = {4, 6, 5};
-    double first[3];
-    double second[3] = {};
-    bool all = true;
-    const int missing = draws.below(3);
-    for (int side = 0; side < 3; ++side) {
+    const auto side = [&](int box) {
         const std::string text = draws.chance(90) ? draws.number(2) : boxText(draws);
-        drawn.problem.boxes[firstBoxes[side]] = text;
-        first[side] = valueText(text);
-        all = all && first[side] > 0;
-        if (side == missing) continue;
-        const std::string similar = draws.chance(90) ? draws.number(2) : boxText(draws);
-        drawn.problem.boxes[secondBoxes[side]] = similar;
-        second[side] = valueText(similar);
-    }
-    // The known side is taken in the order a2, c2, b2; with one side missing, a2 or else c2.
-    const int known = missing == 0 ? 2 : 0;
-    if (!all || second[known] <= 0) {
+        drawn.problem.boxes[box] = text;
+        return valueText(text);
+    };
+    const double a1 = side(3);
+    const double b1 = side(2);
+    const double c1 = side(1);
+    const double a2 = side(4);
+    side(draws.oneOf<int>({5, 6}));
+    if (a1 <= 0 || b1 <= 0 || c1 <= 0 || a2 <= 0) {
         drawn.wanted.line = "All sides of a triangle must have a length greater than zero.";
         return drawn;
     }
     // The ratio is shown and used with two places; a ratio that rounds to 0 divides by 0.
-    const double ratio = roundedToTwo(first[known] / second[known]);
+    const double ratio = roundedToTwo(a1 / a2);
     if (ratio == 0) {
         drawn.wanted.message = "Division by 0!";
         return drawn;
     }
-    const int lastSide = known == 2 ? 1 : 2;
-    drawn.wanted.last = first[lastSide] / ratio;
+    drawn.wanted.last = c1 / ratio;
     drawn.wanted.places = 2;
     return drawn;
 }
