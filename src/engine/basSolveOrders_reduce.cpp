@@ -1,0 +1,220 @@
+// The reduction chain: one visible step a pass until a pass changes nothing.
+//
+// Depth is MaxDepth as it stands; it is read again after each commit, since every rewrite may change
+// it. ReduceGroup's term rules and its rebuild stand in basReduceFunc.
+#include "NumberText.hpp"
+#include "TermPass.hpp"
+#include "TextTools.hpp"
+#include "Workspace.hpp"
+#include "basBreakdownFunc.hpp"
+#include "basFormattingEq.hpp"
+#include "basReduceFunc.hpp"
+#include "basSolveOrders.hpp"
+
+#include <cmath>
+
+namespace ordwise {
+namespace {
+
+constexpr int calculatingRoots = 82;
+constexpr int passLimit = 30;
+
+// --- the driver
+
+int termCount(int group) {
+    return ws.TermLast[ws.MaxDepth][group];
+}
+
+int fractionTokens() {
+    int count = 0;
+    for (int i = 0; i <= ws.TokenLast; ++i) count += contains(ws.TokenBuffer[i], "/") ? 1 : 0;
+    return count;
+}
+
+// The roots topic records a pass only if it has brought terms together.
+void reduceRoots(int group, bool silent, bool stopFlag) {
+    const int before = ws.TermLast[0][0];
+    ReduceGroup(group, silent, stopFlag);
+    CommitStep({.silent = true});
+    if (ws.TermLast[0][0] != before) CommitStep();
+}
+
+void reducePass(int group, bool silent, bool stopFlag) {
+    if (!contains(ImplodeTokens(), "|") && ws.MaxDepth >= 1) {
+        RemoveParentheses();
+        CommitStep();
+    }
+    if (!contains(ImplodeTokens(), "~") && ws.GroupProduct[ws.MaxDepth][group]) OrderPolynomial(group);
+    if (group > ws.GroupTable[ws.MaxDepth].lastGroup) return;
+    if (ws.ProblemType == calculatingRoots) {
+        reduceRoots(group, silent, stopFlag);
+    } else {
+        ReduceGroup(group, silent, stopFlag);
+        CommitStep({.silent = silent});
+    }
+}
+
+bool betweenBars(const std::string& text) {
+    return ws.MaxDepth == 1 && contains(text, "|");
+}
+
+// Numbers with a fraction among them, no decimals: e.g. 1/2+3, and any fractions between bars. An
+// expression whose variable has been replaced counts as numbers.
+bool wantsFractionArithmetic(int group) {
+    const std::string text = ImplodeTokens();
+    const std::string own = groupText(ws.MaxDepth, group);
+    const std::string& variable = ws.VarNames[1];
+    if (termCount(group) < 2 || !contains(own, "/") || contains(own, ".")) return false;
+    const bool enough = fractionTokens() >= termCount(group) - 1 && variable.empty() && ws.MaxDepth == 0;
+    const bool replacedVariable = !variable.empty() && !contains(text, variable);
+    return betweenBars(text) || enough || replacedVariable;
+}
+
+bool holdsConstantPower(int group) {
+    for (int t = 1; t <= termCount(group); ++t) {
+        const ExprTerm& term = termOf(ws.MaxDepth, group, t);
+        if (term.varExp[1] != 1.0F && (term.numText.substr(0, 1) == "^" || term.denText.substr(0, 1) == "^"))
+            return true;
+    }
+    return false;
+}
+
+// What the passes have left apart: numbers without a variable, or anything between bars.
+bool wantsLastFractionArithmetic(int group) {
+    const std::string text = ImplodeTokens();
+    const bool plain = ws.VarNames[1].empty() && ws.MaxDepth == 0 && !holdsConstantPower(group);
+    const bool fewFractions = fractionTokens() < termCount(group) - 1;
+    if (contains(text, ".") || termCount(group) < 2) return false;
+    return betweenBars(text) || (plain && !fewFractions);
+}
+
+}  // namespace
+
+void ReduceExpression(int group, bool silent, bool stopFlag) {
+    ws.ReductionStable = false;
+    ws.StepClass = 2;
+    std::string before;
+    for (int pass = 0; pass < passLimit && !ws.ReductionStable && before != ImplodeTokens(); ++pass) {
+        before = ImplodeTokens();
+        reducePass(group, silent, stopFlag);
+        if (!wantsFractionArithmetic(group)) continue;
+        FractionArithmetic(group);
+        break;
+    }
+    if (wantsLastFractionArithmetic(group)) {
+        ReduceGroup(group, false, stopFlag);
+        CommitStep();
+        FractionArithmetic(group);
+    }
+    ws.StepClass = 1;
+    if (ws.ProblemType != calculatingRoots) CommitStep({.silent = silent, .stopWhenStable = true});
+}
+
+void ReduceAllGroups() {
+    ws.StepClass = 1;
+    CommitStep({.silent = true});
+    const int depth = ws.MaxDepth;
+    for (int group = 0; ws.MaxDepth == depth && group <= ws.GroupTable[depth].lastGroup; ++group) {
+        if (ws.GroupProduct[depth][group]) OrderPolynomial(group);
+        ReduceExpression(group);
+    }
+    for (int level = ws.MaxDepth; level > 0; --level) {
+        for (int group = 0; group <= ws.GroupTable[level].lastGroup; ++group) {
+            if (groupOf(level, group).isAbsolute) {
+                AbsoluteValueStep(group);
+            } else {
+                RemoveParentheses();
+                CommitStep();
+            }
+        }
+    }
+    ReduceExpression(0);
+}
+
+// --- ReduceGroup: its opening
+
+namespace {
+
+const std::string rootNote = "Simplfy the square roots by removing any perfect squares from under the radical.";
+const std::string reorderNote = "Reorder the polynomial.";
+
+// "Any constant ..." when the first exponent of the text is greater than 1.
+std::string powerNote(const std::string& text) {
+    const std::size_t caret = text.find('^');
+    if (caret == std::string::npos || caret == 0 || lenientValueOf(text.substr(caret + 1)) <= 1) return reorderNote;
+    return "Any constant that is raised to a power like " + text.substr(caret - 1, 3) +
+           "^ should be expanded out by multiplying. Ex( 3^2^ = 9 )";
+}
+
+// The note of a pre-pass, by what the line shows; a decimal without a fraction leaves it as it is.
+void choosePrePassNote(const std::string& text, const std::string& line) {
+    if (contains(text, "^-")) ws.CurrentNote = "Remove negative exponents from all terms in polynomial.";
+    if (contains(line, "^-")) {
+        ws.CurrentNote = "Remove negative exponents moving the term to the denominator.";
+    } else if (contains(line, ".")) {
+        if (contains(line, "#")) ws.CurrentNote = "Divide to find decimal answers.";
+    } else if (contains(line, "#")) {
+        ws.CurrentNote = "Remove common factors from fractions.";
+    } else if (contains(line, "~")) {
+        ws.CurrentNote = rootNote;
+    } else if (!ws.VarNames[1].empty()) {
+        ws.CurrentNote = "Combine like terms.";
+    } else {
+        ws.CurrentNote = powerNote(text);
+    }
+}
+
+// e.g. x^-2: "... (ex. x^-2^=#1/x^2^#)."
+std::string movedNote(const ExprTerm& term) {
+    const std::string& name = term.varName[1];
+    const float exponent = term.varExp[2];
+    return "Remove the negative exponent by moving the term to the denominator (ex. " + name + "^" + textOf(exponent) +
+           "^=#1/" + name + "^" + textOf(std::fabs(exponent)) + "^#).";
+}
+
+// A term of the pre-pass. Only the first one with a negative exponent is moved below the bar; those
+// behind it wait for the next pass. Numbers and powers of numbers stay.
+std::string prePassTerm(const ExprTerm& term, bool& moved) {
+    const std::string letters = withoutPowerOne(term.numText);
+    const bool number = letters.empty() && withoutPowerOne(term.denText).empty();
+    if (number || letters.substr(0, 1) == "^" || moved || term.numerator == 0.0F) return termAsWritten(term);
+    if (contains(letters, "^-")) {
+        moved = true;
+        ws.CurrentNote = movedNote(term);
+    }
+    return term.lead + NegativeExponentText(letters, std::fabs(term.numerator), withoutPowerOne(term.denText),
+                                            std::fabs(term.denominator));
+}
+
+// Negative exponents go below the bar, and the fractions of an equation into lowest terms.
+// e.g. 19x^-2/2 -> 19/2x^2
+void prePass(int group, bool silent) {
+    const std::string text = ImplodeTokens();
+    const std::string& variable = ws.VarNames[1];
+    const bool equation = !variable.empty() && contains(text, "=") && contains(text, "/") && !contains(text, "[");
+    if (ws.MaxDepth != 0 || !(contains(text, "^-") || equation)) return;
+    choosePrePassNote(text, ImplodeCanon());
+    bool moved = false;
+    std::string terms;
+    for (int t = 1; t <= termCount(group); ++t) terms += prePassTerm(termOf(0, group, t), moved);
+    ExplodeTokens(textBefore(groupOf(0, group)) + terms + textFrom(groupOf(0, group)));
+    CommitStep({.silent = silent});
+}
+
+}  // namespace
+
+void ReduceGroup(int group, bool silent, bool stopFlag) {
+    ws.KeepReducing = false;
+    if (!stopFlag) prePass(group, silent);
+    TermPass pass;
+    pass.group = group;
+    pass.textBefore = ImplodeTokens();
+    pass.variable = ws.VarNames[1];
+    pass.holdsVariable = !pass.variable.empty() && contains(pass.textBefore, pass.variable);
+    const std::string looked = termCount(group) != 1 ? ImplodeCanon() : pass.textBefore;
+    ws.CurrentNote = contains(looked, "~") ? rootNote : reorderNote;
+    runTermRules(pass);
+    commitRebuilt(pass, rebuiltText(pass), silent);
+}
+
+}  // namespace ordwise
