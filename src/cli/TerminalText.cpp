@@ -5,8 +5,8 @@
 namespace ordwise {
 namespace {
 
-bool isWordEnd(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || c == ')';
+bool isLetterOrDigit(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z');
 }
 
 // Something that can stand beside a "/" or behind a "√" as it is: a number, a word, or one pair of
@@ -77,9 +77,9 @@ std::string terminalText(std::string_view markup) {
             continue;
         }
         // A number before a fraction is a mixed number; a letter behind one would slip under its bar.
-        if (c == '#' && !out.empty() && isWordEnd(out.back())) out += ' ';
+        if (c == '#' && !out.empty() && (isLetterOrDigit(out.back()) || out.back() == ')')) out += ' ';
         std::string piece = construct(c, markup.substr(i + 1, end - i - 1));
-        if (c == '#' && end + 1 < markup.size() && isWordEnd(markup[end + 1])) piece = "(" + piece + ")";
+        if (c == '#' && end + 1 < markup.size() && isLetterOrDigit(markup[end + 1])) piece = "(" + piece + ")";
         out += piece;
         i = end;
     }

@@ -24,7 +24,7 @@ constexpr double rowHeight = 200;
 constexpr double labelHeight = 28;
 
 // The characters that a topic takes, as bits of InputMask.
-enum MaskBit { maskSigns = 2, maskTimes = 4, maskDivide = 8, maskPower = 16, maskRoot = 256, maskBar = 512 };
+enum MaskBit { maskTimes = 4, maskDivide = 8, maskPower = 16, maskRoot = 256, maskBar = 512 };
 
 const std::vector<std::string> meterUnits = {"mm (0.001 meters)", "cm (0.01 meters)", "dm (0.1 meters)", "m (1 meter)",
                                              "dam (10 meters)",   "hm (100 meters)",  "km (1000 meters)"};
@@ -106,8 +106,8 @@ void enableInsertCommands(int mask) {
     frmMain.mnuAbsValue.Enabled = (mask & maskBar) != 0;
     frmMain.mnuMultiplication.Enabled = (mask & maskTimes) != 0;
     frmMain.mnuDivision.Enabled = (mask & maskDivide) != 0;
-    frmMain.mnuAddition.Enabled = (mask & maskSigns) != 0;
-    frmMain.mnuSubtraction.Enabled = (mask & maskSigns) != 0;
+    frmMain.mnuAddition.Enabled = mask > 1;
+    frmMain.mnuSubtraction.Enabled = mask > 1;
 }
 
 // What can be asked for as long as a worksheet lies on the desk.
