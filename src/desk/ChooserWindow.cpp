@@ -1,0 +1,7 @@
+#include "ChooserWindow.hpp"
+
+namespace ordwise {
+
+ChooserWindow frmSelect;
+
+}  // namespace ordwise

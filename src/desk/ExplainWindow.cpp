@@ -1,0 +1,7 @@
+#include "ExplainWindow.hpp"
+
+namespace ordwise {
+
+ExplainWindow frmExplain;
+
+}  // namespace ordwise

@@ -1,0 +1,82 @@
+// frmPaper: the desk with its sheets, the pencil, the light and the assistant. It forwards keys and
+// mouse to the logic and shows the window's data after each event.
+#pragma once
+
+#include "Windows.hpp"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+
+namespace ordwise {
+
+class ExplanationPopup;
+class PictureButton;
+class SheetView;
+class Stage;
+
+class DeskView : public QWidget {
+public:
+    // The desk as it was laid out; more sheets than fit make it larger.
+    static constexpr double deskWidth = 1024;
+    static constexpr double deskHeight = 740;
+
+    DeskView(QWidget* parent, Stage& stage);
+
+    void showChanges();
+    // A blink that stands still, for those whom it disturbs.
+    void setSteady(bool steady);
+    [[nodiscard]] bool steady() const { return steady_; }
+
+    // 1 fits the desk into the window.
+    void setZoom(double zoom);
+    [[nodiscard]] double zoom() const { return zoom_; }
+    [[nodiscard]] double scale() const { return scale_; }
+
+    [[nodiscard]] SheetView& sheet(int number) const { return *sheets_[static_cast<std::size_t>(number)]; }
+    [[nodiscard]] PictureButton& light() const { return *light_; }
+    [[nodiscard]] PictureButton& assistant() const { return *wizard_; }
+    [[nodiscard]] ExplanationPopup& explanation() const { return *explanation_; }
+
+    // Takes the keyboard: the first box of a box topic, otherwise the desk itself.
+    void takeKeys();
+    // The part of the desk that the window shows has this size.
+    void setViewport(QSize size);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void fitScale();
+    void growToSheets();
+    void showPictures();
+    void stackWindows();
+    void runTimers();
+    void announce();
+
+    Stage& stage_;
+    double zoom_ = 1;
+    double scale_ = 1;
+    QSize viewport_;
+    bool steady_ = false;
+    std::array<SheetView*, PaperWindow::lastSheet + 1> sheets_{};
+    PictureButton* light_;
+    PictureButton* wizard_;
+    PictureButton* click_;
+    QWidget* pencil_;
+    QWidget* deskPencil_;
+    ExplanationPopup* explanation_;
+    QTimer blink_;
+    QTimer signal_;
+    QString announced_;
+    QPointF grab_;
+    bool pressed_ = false;
+    double draggedBy_ = 0;
+};
+
+}  // namespace ordwise

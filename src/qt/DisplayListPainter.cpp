@@ -1,0 +1,113 @@
+#include "DisplayListPainter.hpp"
+
+#include "Art.hpp"
+#include "HalvernShapes.hpp"
+
+#include <QGlyphRun>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRawFont>
+
+#include <map>
+
+namespace ordwise {
+namespace {
+
+QColor colourOf(Colour colour) {
+    return QColor(colour.red, colour.green, colour.blue);
+}
+
+// The text face at the height of em, without hinting, so that a line looks alike at every scale. A
+// machine without the face gets another serif one: every glyph is placed by itself, nothing moves.
+const QRawFont& rawFont(Face face, double em) {
+    static std::map<std::pair<Face, double>, QRawFont> fonts;
+    const auto known = fonts.find({face, em});
+    if (known != fonts.end()) return known->second;
+    QFont font(face == Face::Halvern ? QStringLiteral("TeX Gyre Schola") : QStringLiteral("TeX Gyre Pagella"));
+    font.setStyleHint(QFont::Serif);
+    font.setBold(face == Face::Explanation);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QRawFont raw = QRawFont::fromFont(font);
+    raw.setPixelSize(em);
+    return fonts.emplace(std::pair(face, em), std::move(raw)).first->second;
+}
+
+QPainterPath pathOf(const Shape& shape, double em, double stretch) {
+    QPainterPath path;
+    path.setFillRule(Qt::WindingFill);
+    const double unit = em / 1000;
+    for (const auto& contour : shape) {
+        QPolygonF polygon;
+        for (const ShapePoint& point : contour) polygon << QPointF(point.x * unit * stretch, point.y * unit);
+        path.addPolygon(polygon);
+        path.closeSubpath();
+    }
+    return path;
+}
+
+class OperationPainter {
+public:
+    explicit OperationPainter(QPainter& painter) : painter_(painter) {}
+
+    void operator()(const Glyphs& run) {
+        const QColor colour = colourOf(run.colour);
+        const double em = emOf(run.face, run.size);
+        const double base = baselineOf(run);
+        const QRawFont& font = rawFont(run.face, em);
+        QList<quint32> glyphs;
+        QList<QPointF> places;
+        for (const PlacedGlyph& glyph : placedGlyphs(run)) {
+            if (glyph.shape != nullptr) {
+                painter_.fillPath(pathOf(*glyph.shape, em, glyph.stretch).translated(glyph.x, base), colour);
+                continue;
+            }
+            for (const quint32 index : font.glyphIndexesForString(qstringOf(glyph.character))) {
+                glyphs << index;
+                places << QPointF(glyph.x, base);
+            }
+        }
+        if (glyphs.isEmpty()) return;
+        QGlyphRun glyphRun;
+        glyphRun.setRawFont(font);
+        glyphRun.setGlyphIndexes(glyphs);
+        glyphRun.setPositions(places);
+        painter_.setPen(colour);
+        painter_.drawGlyphRun(QPointF(), glyphRun);
+    }
+
+    void operator()(const Stroke& stroke) {
+        painter_.setPen(QPen(colourOf(stroke.colour), stroke.width));
+        painter_.drawLine(QPointF(stroke.x1, stroke.y1), QPointF(stroke.x2, stroke.y2));
+    }
+
+    void operator()(const Circle& circle) {
+        painter_.setPen(QPen(colourOf(circle.colour), circle.width));
+        painter_.setBrush(circle.filled ? QBrush(colourOf(circle.colour)) : QBrush(Qt::NoBrush));
+        painter_.drawEllipse(QPointF(circle.x, circle.y), circle.radius, circle.radius);
+    }
+
+    void operator()(const Picture& picture) {
+        paintArt(painter_, picture.key, QRectF(picture.x, picture.y, picture.width, picture.height));
+    }
+
+private:
+    QPainter& painter_;
+};
+
+}  // namespace
+
+void replay(const DisplayList& list, QPainter& painter) {
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    OperationPainter paint(painter);
+    for (const DrawOperation& operation : list) std::visit(paint, operation);
+    painter.restore();
+}
+
+double paintText(QPainter& painter, std::string_view text, double x, double y, Face face, double points,
+                 Colour colour) {
+    replay({Glyphs{std::string(text), x, y, face, points, colour}}, painter);
+    return x + textWidth(face, text, points);
+}
+
+}  // namespace ordwise

@@ -1,0 +1,18 @@
+// Replays display lists with Qt: on the screen at any scale, on a printer, into PDF, SVG and PNG.
+#pragma once
+
+#include "DisplayList.hpp"
+
+class QPainter;
+
+namespace ordwise {
+
+// Draws the list with its origin at the painter's; one unit of the surface is one of the painter.
+void replay(const DisplayList& list, QPainter& painter);
+
+// A line of plain text in one of the program's faces, its top left at (x, y); blanks and signs
+// included. Returns where it ends.
+double paintText(QPainter& painter, std::string_view text, double x, double y, Face face, double points,
+                 Colour colour = black);
+
+}  // namespace ordwise

@@ -1,0 +1,94 @@
+#include "ExplanationPopup.hpp"
+
+#include "Art.hpp"
+#include "DisplayListPainter.hpp"
+#include "ExplainWindow.hpp"
+#include "KeyText.hpp"
+#include "Stage.hpp"
+#include "WindowRoutines.hpp"
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace ordwise {
+namespace {
+
+// Around the text, in units of the desk; the head holds the caption.
+constexpr double side = 16;
+constexpr double head = 34;
+
+}  // namespace
+
+ExplanationPopup::ExplanationPopup(QWidget* desk, Stage& stage) : QWidget(desk), stage_(stage) {
+    setObjectName(QStringLiteral("frmExplain"));
+    setFocusPolicy(Qt::StrongFocus);
+    hide();
+}
+
+void ExplanationPopup::showChanges(double scale) {
+    scale_ = scale;
+    if (!frmExplain.Loaded) {
+        const bool hadFocus = hasFocus();
+        hide();
+        if (hadFocus) parentWidget()->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    const QSize size = (QSizeF(frmExplain.Width + 2 * side, frmExplain.Height + head) * scale).toSize();
+    QPoint place = (QPointF(frmExplain.Left, frmExplain.Top) * scale).toPoint();
+    // Kept within the part of the desk that can be seen.
+    const QRect seen = parentWidget()->visibleRegion().boundingRect();
+    if (!seen.isEmpty()) {
+        place.setX(std::max(seen.left(), std::min(place.x(), seen.right() - size.width() - 4)));
+        place.setY(std::max(seen.top(), std::min(place.y(), seen.bottom() - size.height() - 4)));
+    }
+    setGeometry(QRect(place, size));
+    setAccessibleName(qstringOf(frmExplain.Caption));
+    setAccessibleDescription(qstringOf(frmExplain.Spoken));
+    update();
+    if (isVisible()) return;
+    show();
+    setFocus(Qt::OtherFocusReason);
+    QAccessibleEvent event(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void ExplanationPopup::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale_, scale_);
+    const QRectF frame(0.75, 0.75, width() / scale_ - 1.5, height() / scale_ - 1.5);
+    painter.setPen(QPen(QColor(0x8a, 0x6d, 0x2f), 1.5));
+    painter.setBrush(QColor(0xff, 0xfb, 0xe4));
+    painter.drawRoundedRect(frame, 10, 10);
+    paintArt(painter, "wizhead", QRectF(10, 6, 24, 24));
+    paintText(painter, frmExplain.Caption, 40, 8, Face::Explanation, 11, Colour{0x6b, 0x4e, 0x12});
+    painter.setPen(QPen(QColor(0xe0, 0xcf, 0x9c), 1));
+    painter.drawLine(QPointF(side, head), QPointF(frame.right() - side, head));
+    painter.translate(side, head + 4);
+    replay(frmExplain.drawn(), painter);
+}
+
+void ExplanationPopup::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && frmExplain.Loaded) close();
+}
+
+// Esc and Enter only close; a typed key goes on to the paper, where it was meant for.
+void ExplanationPopup::keyPressEvent(QKeyEvent* event) {
+    const bool modifierAlone = event->key() == Qt::Key_Shift || event->key() == Qt::Key_Control ||
+                               event->key() == Qt::Key_Alt || event->key() == Qt::Key_Meta;
+    if (modifierAlone) return;
+    const bool typed = event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter && !keyTextOf(*event).empty();
+    close();
+    if (typed) QCoreApplication::sendEvent(parentWidget(), event);
+}
+
+void ExplanationPopup::close() {
+    stage_.perform([] { unloadWindow("frmExplain"); });
+}
+
+}  // namespace ordwise

@@ -1,0 +1,105 @@
+// ordwise, the desktop program.
+#include "ExportCommand.hpp"
+#include "FrameWindow.hpp"
+#include "FreshProgram.hpp"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QTextStream>
+
+#include <cstring>
+
+namespace {
+
+bool wantsExport(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        if (std::strncmp(argv[i], "--export", std::strlen("--export")) == 0) return true;
+    }
+    return false;
+}
+
+// "2=3.5" -> 2, "3.5"; false without a number before the "=".
+bool readPair(const QString& text, int& number, QString& value) {
+    const qsizetype equals = text.indexOf(QLatin1Char('='));
+    bool valid = false;
+    number = text.left(equals).toInt(&valid);
+    value = text.mid(equals + 1);
+    return equals > 0 && valid;
+}
+
+bool readRequest(const QCommandLineParser& parser, ordwise::ExportRequest& request, QString& reason) {
+    const QStringList words = parser.positionalArguments();
+    if (words.isEmpty() || words.size() > 2) {
+        reason = QStringLiteral("--export takes a problem type and a problem.");
+        return false;
+    }
+    request.file = parser.value(QStringLiteral("export"));
+    request.topic = words[0];
+    request.problem = words.value(1);
+    request.answers = parser.values(QStringLiteral("answer"));
+    int number = 0;
+    QString value;
+    for (const QString& text : parser.values(QStringLiteral("box"))) {
+        if (!readPair(text, number, value)) {
+            reason = QStringLiteral("--box takes N=TEXT.");
+            return false;
+        }
+        request.boxes.emplace_back(number, value);
+    }
+    for (const QString& text : parser.values(QStringLiteral("combo"))) {
+        bool valid = readPair(text, number, value);
+        const int index = value.toInt(&valid);
+        if (!valid) {
+            reason = QStringLiteral("--combo takes N=INDEX.");
+            return false;
+        }
+        request.combos.emplace_back(number, index);
+    }
+    return true;
+}
+
+// 0 done, 1 the problem was refused, 2 the command line could not be read.
+int exportFromCommandLine(const QCommandLineParser& parser) {
+    QTextStream complaint(stderr);
+    ordwise::ExportRequest request;
+    QString reason;
+    if (!readRequest(parser, request, reason)) {
+        complaint << reason << Qt::endl;
+        return 2;
+    }
+    if (ordwise::runExport(request, reason)) return 0;
+    complaint << reason << Qt::endl;
+    return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // A picture needs fonts and a painter, but no display.
+    if (wantsExport(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Ordwise"));
+    QApplication::setOrganizationName(QStringLiteral("Halvern"));
+    QApplication::setApplicationVersion(QStringLiteral(ORDWISE_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Desktop tutor and solver for school mathematics."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addOptions(
+        {{QStringLiteral("export"), QStringLiteral("Draw the solved sheets into FILE (.png, .svg, .pdf)."),
+          QStringLiteral("FILE")},
+         {QStringLiteral("box"), QStringLiteral("Fill box N of a box topic."), QStringLiteral("N=TEXT")},
+         {QStringLiteral("combo"), QStringLiteral("Select entry INDEX of list N."), QStringLiteral("N=INDEX")},
+         {QStringLiteral("answer"), QStringLiteral("Answer the next question of the solve."), QStringLiteral("TEXT")}});
+    parser.addPositionalArgument(QStringLiteral("topic"), QStringLiteral("A problem type, with --export."));
+    parser.addPositionalArgument(QStringLiteral("problem"),
+                                 QStringLiteral("The problem as it is typed, with --export."));
+    parser.process(application);
+    if (parser.isSet(QStringLiteral("export"))) return exportFromCommandLine(parser);
+
+    ordwise::startFreshProgram();
+    ordwise::FrameWindow frame;
+    static_cast<QWidget&>(frame).show();
+    return QApplication::exec();
+}

@@ -1,0 +1,27 @@
+// The outside of the desktop: real message boxes and windows, the machine's clock.
+#pragma once
+
+#include "Platform.hpp"
+
+#include <functional>
+
+class QWidget;
+
+namespace ordwise {
+
+class QtDialogs : public Dialogs {
+public:
+    QWidget* parent = nullptr;
+    std::function<void()> beforeDialog;  // lets the desk show what has happened so far
+
+    MessageAnswer messageBox(std::string_view text, std::string_view caption, MessageButtons buttons) override;
+    std::string inputBox(std::string_view prompt, std::string_view caption) override;
+};
+
+class QtClock : public Clock {
+public:
+    [[nodiscard]] int minuteAndSecond() const override;
+    [[nodiscard]] std::string today() const override;
+};
+
+}  // namespace ordwise

@@ -1,0 +1,19 @@
+// Paints what lies on the desk: a sheet with its title, its lines, and on the first one the figure
+// of a box topic. The desk and the export use the same drawing.
+#pragma once
+
+#include "Windows.hpp"
+
+class QPainter;
+
+namespace ordwise {
+
+// A sheet by its number, its top left at the painter's origin, in points of the sheet.
+void paintSheet(QPainter& painter, int number);
+
+// Picture3 at the painter's origin: the figure and the captions.
+void paintFigure(QPainter& painter);
+// What the boxes and lists hold, for pictures on which there are no real ones.
+void paintBoxes(QPainter& painter);
+
+}  // namespace ordwise

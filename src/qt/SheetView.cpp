@@ -1,0 +1,210 @@
+#include "SheetView.hpp"
+
+#include "Art.hpp"
+#include "BoxEdit.hpp"
+#include "DeskEvents.hpp"
+#include "GuidedInput.hpp"
+#include "PictureButton.hpp"
+#include "SheetPainter.hpp"
+#include "Stage.hpp"
+#include "StepDisplay.hpp"
+#include "WorksheetBoxes.hpp"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace ordwise {
+namespace {
+
+constexpr double boxFontUnits = 17;
+constexpr double listFontUnits = 14;
+
+QFont unitFont(double units, double scale) {
+    QFont font(QStringLiteral("TeX Gyre Schola"));
+    font.setStyleHint(QFont::Serif);
+    font.setPixelSize(std::max(6, qRound(units * scale)));
+    return font;
+}
+
+// The caption at a box, "radius=" or "=radius", without its sign.
+QString captionOf(const Control& box) {
+    for (const Control* label :
+         {&frmPaper.Label1, &frmPaper.Label2, &frmPaper.Label3, &frmPaper.Label4, &frmPaper.Label5, &frmPaper.Label8}) {
+        const bool before = label->AlignRight && label->Left < box.Left && box.Left - label->Left <= 75;
+        const bool behind = !label->AlignRight && label->Text.size() > 2 && label->Left > box.Left;
+        if (!label->Visible || label->Top != box.Top || !(before || behind)) continue;
+        if (label->Text.find('=') == std::string::npos) continue;
+        return qstringOf(label->Text).remove(QLatin1Char('='));
+    }
+    return QString();
+}
+
+QString boxName(int number) {
+    const QString caption = captionOf(frmPaper.box(number));
+    return caption.isEmpty() ? QStringLiteral("Box %1").arg(number) : caption;
+}
+
+}  // namespace
+
+void showCombo(QComboBox& widget, const ComboControl& combo, double scale) {
+    widget.setGeometry(placeOf(combo, scale));
+    widget.setFont(unitFont(listFontUnits, scale));
+    QStringList list;
+    for (const std::string& entry : combo.List) list << qstringOf(entry);
+    QStringList shown;
+    for (int i = 0; i < widget.count(); ++i) shown << widget.itemText(i);
+    if (list != shown) {
+        widget.clear();
+        widget.addItems(list);
+    }
+    widget.setCurrentIndex(combo.ListIndex);
+    widget.setVisible(combo.Visible);
+}
+
+FigureView::FigureView(QWidget* parent, Stage& stage) : QWidget(parent) {
+    for (int number = 1; number <= 6; ++number) {
+        auto* box = new BoxEdit(this, [&stage, number](std::string_view key) {
+            stage.perform([&] {
+                if (key == enterKey) {
+                    Form_KeyPress(key);
+                } else {
+                    Box_KeyPress(number, key);
+                }
+            });
+        });
+        box->setObjectName(QStringLiteral("Text%1").arg(number));
+        boxes_[static_cast<std::size_t>(number - 1)] = box;
+    }
+    for (int number = 1; number <= 2; ++number) {
+        auto* combo = new QComboBox(this);
+        combo->setObjectName(QStringLiteral("Combo%1").arg(number));
+        combo->setAccessibleName(number == 1 ? QStringLiteral("Convert from") : QStringLiteral("Convert to"));
+        QObject::connect(combo, &QComboBox::activated, this,
+                         [&stage, number](int index) { stage.perform([&] { selectInCombo(number, index); }); });
+        combos_[static_cast<std::size_t>(number - 1)] = combo;
+    }
+}
+
+void FigureView::showChanges(double scale) {
+    scale_ = scale;
+    setGeometry(placeOf(frmPaper.Picture3, scale)
+                    .translated(QPointF(SheetView::shadow * scale, SheetView::shadow * scale).toPoint()));
+    for (int number = 1; number <= 6; ++number) {
+        const Control& control = frmPaper.box(number);
+        BoxEdit& edit = box(number);
+        edit.setGeometry(placeOf(control, scale));
+        edit.setFont(unitFont(boxFontUnits, scale));
+        edit.setAccessibleName(boxName(number));
+        edit.showText(qstringOf(control.Text));
+        edit.setVisible(control.Visible);
+    }
+    showCombo(combo(1), frmPaper.Combo1, scale);
+    showCombo(combo(2), frmPaper.Combo2, scale);
+    setVisible(frmPaper.Picture3.Visible);
+    update();
+}
+
+void FigureView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.scale(scale_, scale_);
+    paintFigure(painter);
+}
+
+// A press beside the boxes takes hold of the sheet.
+void FigureView::mousePressEvent(QMouseEvent* event) {
+    event->ignore();
+}
+
+SheetView::SheetView(QWidget* parent, Stage& stage, int number)
+    : QWidget(parent), stage_(stage), number_(number), blinker_(new PictureButton(this)) {
+    setObjectName(QStringLiteral("Paper%1").arg(number));
+    blinker_->setObjectName(QStringLiteral("blinker%1").arg(number));
+    QObject::connect(blinker_, &QAbstractButton::clicked, this, [this] { stage_.perform(blinker_Click); });
+    if (number != 0) return;
+    figure_ = new FigureView(this, stage);
+    figure_->setObjectName(QStringLiteral("Picture3"));
+    rounding_ = new QComboBox(this);
+    rounding_->setObjectName(QStringLiteral("Combo3"));
+    rounding_->setAccessibleName(QStringLiteral("Rounding"));
+    QObject::connect(rounding_, &QComboBox::activated, this,
+                     [this](int index) { stage_.perform([index] { selectInCombo(3, index); }); });
+}
+
+void SheetView::showChanges(double scale, bool steady) {
+    const Sheet& sheet = frmPaper.Paper[number_];
+    setVisible(sheet.Visible);
+    if (!sheet.Visible) return;
+    const bool scaled = scale != scale_;
+    scale_ = scale;
+    setGeometry(QRectF((sheet.Left - shadow) * scale, (sheet.Top - shadow) * scale, (sheet.Width + 2 * shadow) * scale,
+                       (sheet.Height + 2 * shadow) * scale)
+                    .toRect());
+    const QString title = qstringOf(sheet.Label6.Text);
+    if (scaled || shown_ != sheet.drawn() || title != shownTitle_) {
+        shown_ = sheet.drawn();
+        shownTitle_ = title;
+        update();
+    }
+    setAccessibleName(QStringLiteral("Sheet %1, %2").arg(number_ + 1).arg(title));
+    showBlinker(scale, steady);
+    if (figure_ != nullptr) figure_->showChanges(scale);
+    if (rounding_ != nullptr) {
+        ComboControl combo = frmPaper.Combo3;
+        combo.Left += shadow;
+        combo.Top += shadow;
+        showCombo(*rounding_, combo, scale);
+    }
+}
+
+// A button behind a line that ends at the border of the sheet goes below the line.
+void SheetView::showBlinker(double scale, bool steady) {
+    const Sheet& sheet = frmPaper.Paper[number_];
+    Control button = sheet.blinker;
+    const double room = sheet.Width - button.Width - 6;
+    if (button.Left > room) {
+        button.Left = room;
+        button.Top += 42;
+    }
+    button.Left += shadow;
+    button.Top += shadow;
+    if (steady || button.Image.empty()) button.Image = "arrow1";
+    blinker_->showControl(button, scale, QStringLiteral("Next Step"));
+}
+
+void SheetView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.scale(scale_, scale_);
+    const Sheet& sheet = frmPaper.Paper[number_];
+    painter.setPen(Qt::NoPen);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int i = 0; i < 8; ++i) {  // soft: each layer darkens what the smaller ones leave
+        const double out = shadow - i;
+        painter.setBrush(QColor(30, 15, 0, 10));
+        painter.drawRoundedRect(
+            QRectF(shadow - out + 3, shadow - out + 4, sheet.Width + 2 * out - 4, sheet.Height + 2 * out - 4), out,
+            out);
+    }
+    painter.translate(shadow, shadow);
+    paintSheet(painter, number_);
+}
+
+void SheetView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    parentWidget()->setFocus(Qt::MouseFocusReason);
+    grab_ = event->globalPosition();
+    dragged_ = true;
+    stage_.perform([this] { Paper_MouseDown(number_); });
+}
+
+void SheetView::mouseMoveEvent(QMouseEvent* event) {
+    if (!dragged_) return;
+    const QPointF by = (event->globalPosition() - grab_) / scale_;
+    grab_ = event->globalPosition();
+    stage_.perform([&] { Paper_MouseMove(number_, by.x(), by.y()); });
+}
+
+void SheetView::mouseReleaseEvent(QMouseEvent*) {
+    dragged_ = false;
+}
+
+}  // namespace ordwise

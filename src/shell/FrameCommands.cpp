@@ -1,0 +1,77 @@
+#include "FrameCommands.hpp"
+
+#include "ChooserLogic.hpp"
+#include "GuidedInput.hpp"
+#include "Platform.hpp"
+#include "SolveDriver.hpp"
+#include "Windows.hpp"
+#include "WorksheetErase.hpp"
+#include "Workspace.hpp"
+
+namespace ordwise {
+namespace {
+
+void toggle(Control& menu) {
+    menu.Checked = !menu.Checked;
+}
+
+}  // namespace
+
+void mnuNew_Click() {
+    platform.windows->show("frmSelect");
+    if (!ws.ChooserClosed) {
+        platform.windows->unload("frmPaper");
+        platform.windows->show("frmPaper");
+    }
+    ws.ChooserClosed = false;
+}
+
+void mnuSolve_Click() {
+    compute_Click();
+}
+
+void mnuErase_Click() {
+    clear_Click();
+}
+
+void mnuExp_Click() {
+    if (!ws.StepNotes[ws.ShownStep].empty()) platform.windows->show("frmExplain");
+}
+
+void insertCharacter(std::string_view character) {
+    Form_KeyPress(character);
+}
+
+void mnuConvertDF_Click() {
+    ws.UseFractions = !ws.UseFractions;
+    ws.UseDecimals = !ws.UseFractions;
+    frmMain.Toolbar1[MainWindow::buttonFracdec].Image = ws.UseFractions ? "fracdec" : "fracdec2";
+}
+
+void mnuPencil_Click() {
+    toggle(frmMain.mnuPencil);
+}
+
+void mnuShowStep_Click() {
+    toggle(frmMain.mnuShowStep);
+    if (!frmMain.mnuShowStep.Checked) {
+        ws.ShownStep = 0;
+    } else if (ws.ShownStep == 0) {
+        ws.ShownStep = 2;
+    }
+}
+
+void mnuHideWiz_Click() {
+    toggle(frmMain.mnuHideWiz);
+    frmPaper.Wizard.Visible = frmMain.mnuHideWiz.Checked;
+    if (frmPaper.Wizard.Visible) return;
+    frmPaper.clickMe.Enabled = false;
+    frmPaper.Click.Visible = false;
+}
+
+void mnuShowLight_Click() {
+    toggle(frmMain.mnuShowLight);
+    frmPaper.Light.Visible = frmMain.mnuShowLight.Checked;
+}
+
+}  // namespace ordwise

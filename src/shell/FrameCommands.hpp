@@ -1,0 +1,28 @@
+// The commands of the frame, as its menus and its toolbar give them. Each reaches the worksheet
+// through the worksheet's own routines.
+#pragma once
+
+#include <string_view>
+
+namespace ordwise {
+
+// New Problem: lets the student choose, and lays out a fresh worksheet unless the chooser was
+// cancelled.
+void mnuNew_Click();
+// Solve, Erase and Explanation of the worksheet.
+void mnuSolve_Click();
+void mnuErase_Click();
+void mnuExp_Click();
+
+// Inserts a character as if it were typed: "~", "^", "|", "+", "-", "*" or "/".
+void insertCharacter(std::string_view character);
+
+// Results as fractions or as decimals, from the next solve on; the button shows which.
+void mnuConvertDF_Click();
+
+void mnuPencil_Click();     // the pencil writes along, or lies still
+void mnuShowStep_Click();   // one step at a time, or the whole solution
+void mnuHideWiz_Click();    // the assistant on the desk or away
+void mnuShowLight_Click();  // the light of the guided input on the desk or away
+
+}  // namespace ordwise

@@ -1,0 +1,56 @@
+#include "WindowRoutines.hpp"
+
+#include "ChooserLogic.hpp"
+#include "ChooserWindow.hpp"
+#include "ExplainWindow.hpp"
+#include "ExplanationWindow.hpp"
+#include "Windows.hpp"
+#include "WorksheetLayout.hpp"
+
+#include <array>
+
+namespace ordwise {
+namespace {
+
+struct WindowRow {
+    std::string_view name;
+    void (*load)();
+    void (*unload)();
+};
+
+constexpr std::array<WindowRow, 3> windowRows{{
+    {"frmPaper", [] { Form_Load(); },
+     [] {
+         if (frmPaper.Loaded) Form_Unload();
+     }},
+    {"frmSelect",
+     [] {
+         Select_Load();  // remembers the problem before the tree forgets it
+         BuildTopicTree(true);
+     },
+     [] {
+         if (frmSelect.Loaded) Select_Unload();
+     }},
+    {"frmExplain",
+     [] {
+         LoadExplanation();
+         ShowExplanation();
+     },
+     [] { frmExplain.Loaded = false; }},
+}};
+
+}  // namespace
+
+void loadWindow(std::string_view name) {
+    for (const WindowRow& row : windowRows) {
+        if (row.name == name) row.load();
+    }
+}
+
+void unloadWindow(std::string_view name) {
+    for (const WindowRow& row : windowRows) {
+        if (row.name == name) row.unload();
+    }
+}
+
+}  // namespace ordwise

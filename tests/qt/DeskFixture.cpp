@@ -1,0 +1,81 @@
+#include "DeskFixture.hpp"
+
+#include "ChooserDialog.hpp"
+#include "DeskView.hpp"
+#include "FreshProgram.hpp"
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+
+namespace ordwise::test {
+
+DeskTest::DeskTest() {
+    startFreshProgram();
+    frame = std::make_unique<FrameWindow>();
+    QWidget& window = *frame;
+    window.resize(1120, 930);
+    window.show();
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
+DeskTest::~DeskTest() {
+    EXPECT_EQ(dialogsAwaited_, 0) << "a dialog that was expected did not open";
+}
+
+void DeskTest::atNextDialog(const std::function<void(QWidget& dialog)>& act) {
+    ++dialogsAwaited_;
+    QTimer::singleShot(0, frame.get(), [this, act] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        ASSERT_NE(dialog, nullptr);
+        --dialogsAwaited_;
+        act(*dialog);
+    });
+}
+
+void DeskTest::choose(const QString& typed) {
+    atNextDialog([typed](QWidget& dialog) {
+        auto& chooser = dynamic_cast<ChooserDialog&>(dialog);
+        QTest::keyClicks(&chooser.searchBox(), typed);
+        QTest::keyClick(&chooser.searchBox(), Qt::Key_Return);
+    });
+    press(Qt::Key_N, Qt::ControlModifier);
+}
+
+// The platform without a screen does not give the keyboard back when a dialog closes.
+QWidget* DeskTest::focused() {
+    if (QApplication::focusWidget() == nullptr) {
+        frame->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(static_cast<QWidget*>(frame.get())));
+    }
+    return QApplication::focusWidget();
+}
+
+void DeskTest::press(int key, Qt::KeyboardModifiers modifiers) {
+    QWidget* target = focused();
+    ASSERT_NE(target, nullptr);
+    QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
+}
+
+void DeskTest::type(const QString& keys) {
+    for (const QChar key : keys) {
+        QWidget* target = focused();
+        ASSERT_NE(target, nullptr);
+        QTest::keyClicks(target, key);
+    }
+}
+
+void DeskTest::clickOn(QWidget& widget) {
+    ASSERT_TRUE(widget.isVisible());
+    QTest::mouseClick(&widget, Qt::LeftButton);
+}
+
+void DeskTest::shoot(const char* name) {
+    const QString folder = qEnvironmentVariable("ORDWISE_SHOTS");
+    if (folder.isEmpty()) return;
+    QTest::qWait(20);
+    EXPECT_TRUE(frame->grab().save(folder + QLatin1Char('/') + QString::fromLatin1(name) + QStringLiteral(".png")));
+}
+
+}  // namespace ordwise::test

@@ -1,0 +1,52 @@
+// A fresh program with its real frame, and hands to press its keys and buttons.
+#pragma once
+
+#include "FrameWindow.hpp"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace ordwise::test {
+
+class DeskTest : public testing::Test {
+protected:
+    DeskTest();
+    ~DeskTest() override;
+
+    // New Problem by its key; the topic is found by typing into the search box.
+    void choose(const QString& typed);
+    // What a person does with the next dialog; the test fails if none opens.
+    void atNextDialog(const std::function<void(QWidget& dialog)>& act);
+    void expectDialogSeen();
+
+    // Keys go to whatever has the keyboard, as they do on a real desk.
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void type(const QString& keys);
+    static void clickOn(QWidget& widget);
+
+    template <class Widget = QWidget>
+    Widget& child(const char* name) {
+        auto* found = frame->findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return *found;
+    }
+
+    // Keeps a picture of the frame in the folder that ORDWISE_SHOTS names, if it names one.
+    void shoot(const char* name);
+
+    // The widget that has the keyboard.
+    QWidget* focused();
+
+    std::unique_ptr<FrameWindow> frame;
+
+private:
+    int dialogsAwaited_ = 0;
+};
+
+}  // namespace ordwise::test
