@@ -136,9 +136,19 @@ Monomial monomialOf(const ExprTerm& term) {
     return {term.numerator, term.denominator, withoutExponentOne(term.numText), withoutExponentOne(term.denText)};
 }
 
+namespace {
+
+// The product of two numbers as they print: the single nearest to 8.1 is a little more, and times 85
+// it would print 688.5001.
+float timesAsPrinted(float a, float b) {
+    return static_cast<float>(inRange(valueOf(textOf(a)) * valueOf(textOf(b))));
+}
+
+}  // namespace
+
 Monomial product(const Monomial& a, const Monomial& b) {
-    return {a.numerator * b.numerator, a.denominator * b.denominator, MultiplyLetterParts(a.numText, b.numText),
-            MultiplyLetterParts(a.denText, b.denText)};
+    return {timesAsPrinted(a.numerator, b.numerator), timesAsPrinted(a.denominator, b.denominator),
+            MultiplyLetterParts(a.numText, b.numText), MultiplyLetterParts(a.denText, b.denText)};
 }
 
 std::string plainText(const Monomial& factor) {

@@ -5,6 +5,7 @@
 // The store describes the side that was parsed last, so every routine that needs a side goes there
 // first with onSide. Marks in a line: "[-3]" and "[+3]" are put on both sides, "/[2]" divides both,
 // "$" is the sign of inequality.
+#include "CanonicalRewrite.hpp"
 #include "NumberText.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
@@ -107,8 +108,13 @@ Moves markMoves(Goes goes) {
     return moves;
 }
 
+// Written anew from the terms, so that -0=x becomes x=0.
 void swapSides(const std::string& note) {
-    ExplodeTokens(sideText(1) + "=" + sideText(0));
+    std::string text;
+    for (const ExprTerm& term : termsOf(1)) text += signedText(monomialOf(term));
+    text += "=";
+    for (const ExprTerm& term : termsOf(0)) text += signedText(monomialOf(term));
+    ExplodeTokens(text);
     ws.CurrentNote = note;
 }
 
@@ -200,9 +206,23 @@ bool solveForOther(const std::string& variable, const std::string& other) {
     return SolveEquation(other);
 }
 
+const std::string orderNote =
+    "Polynomials are written in decreasing order of terms. The largest term or the term with the highest exponent in "
+    "the polynomial is usually written first. The first term in a polynomial is called the leading term. ";
+
+// The line holds what the last step's line holds, in another order: a rearrangement that no step
+// has shown yet. e.g. y=3+2x and y=2x+3
+bool onlyReordered() {
+    std::string before = ws.LastLine;
+    std::string now = CanonicalLine();
+    std::sort(before.begin(), before.end());
+    std::sort(now.begin(), now.end());
+    return before == now;
+}
+
 // A number times the variable stands on the left, a value on the right.
 bool divideOut(const std::string& variable) {
-    ws.CurrentNote = "Remove cancelled terms from both sides.";
+    ws.CurrentNote = onlyReordered() ? orderNote : "Remove cancelled terms from both sides.";
     CommitStep();
     DivideBothSides(variable);
     for (const int side : {0, 1}) {

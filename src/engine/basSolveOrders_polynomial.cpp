@@ -45,9 +45,8 @@ bool freeOneGroup() {
 
 // e.g. (2*3+x) -> (6+x), (x+x) -> (2x)
 bool simplifyGroup(int depth, int group) {
-    if (freeOneGroup()) return true;
-    ExpandIfPowers(group);
-    if (!isGroup(depth, group)) return true;
+    // With the powers a factor in front may be multiplied in, and the group behind takes its number.
+    if (freeOneGroup() || ExpandIfPowers(group)) return true;
     if (ws.GroupProduct[depth][group]) OrderPolynomial(group);
     if (!isGroup(depth, group) || ExpandPrefixPower(group)) return true;
     ReduceExpression(group);
