@@ -170,7 +170,8 @@ private:
             opened.prefixDenText = factor.denText;
             opened.prefixDenominator = factor.denominator;
             opened.prefixExp = pendingExp_;
-            if (previous != "[" && !IsOperator(previous)) termCount(ws.CurrentDepth - 1, outer) -= 1;
+            const bool factorLeaves = previous != "[" && !IsOperator(previous) && !holdsGroup(opened.prefixStart, i_);
+            if (factorLeaves) termCount(ws.CurrentDepth - 1, outer) -= 1;
         }
         startInside();
     }
@@ -194,6 +195,14 @@ private:
             if (level == 0 && opensTerm) return slot;
         }
         return 0;
+    }
+
+    // The term left with a group before. e.g. between the "-" and the second "(" of -5(2)^3(6)
+    static bool holdsGroup(int from, int to) {
+        for (int slot = from; slot < to; ++slot) {
+            if (tokenAt(slot) == ")") return true;
+        }
+        return false;
     }
 
     void closeGroup() {

@@ -1,0 +1,185 @@
+// Equations: moving, dividing, the three ends, and polynomials set to zero.
+#include "SolveText.hpp"
+#include "basFactoring.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace ordwise::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+struct Ending {
+    const char* text;
+    const char* last;
+};
+
+TEST(SolveEquation, EndsWithTheVariable) {
+    const Ending cases[] = {
+        {"x+3=12", "x=9"},           {"7-x=3", "x=4"},    {"-3x=-9", "x=3"}, {"3=2x+1", "x=1"},
+        {"x+3=0", "x=-3"},           {"4x=6", "x=#3/2#"}, {"x=-x", "x=0"},   {"x-4=4-x", "x=4"},
+        {"2+3x-1=x+9-x", "x=#8/3#"}, {"-0=x", "x=0"},     {"2x=x+3", "x=3"}, {"1+1=x+x-x", "x=2"},
+    };
+    for (const Ending& one : cases) EXPECT_EQ(solveText(101, one.text).last(), one.last) << one.text;
+}
+
+TEST(SolveEquation, MovesEveryTermAtOnce) {
+    startText(101, "3x+2=x+2x-4+1");
+    EXPECT_TRUE(SolveForRight("x", false));
+    EXPECT_EQ(ImplodeTokens(), "+3x+2[-1x][-2x]=+1x[-1x]+2x[-2x]-4+1");
+}
+
+TEST(SolveEquation, SwapsOnlyWhenThatIsAllThereIsToDo) {
+    EXPECT_EQ(solveText(101, "3=x").lines, (Lines{"3=x", "x=3"}));
+    // Here a swap would put the terms on the wrong sides for ever.
+    EXPECT_EQ(solveText(101, "2x=x+3").lines[1], "2x[-x]=x[-x]+3");
+}
+
+TEST(SolveEquation, SaysThatAnythingOrNothingSolves) {
+    Recorded steps = solveText(101, "x+2=2+x");
+    EXPECT_EQ(steps.last(), "2=2");
+    EXPECT_EQ(steps.notes.back(), "Since 2 equals 2 then x can be any real number.");
+    steps = solveText(101, "x+1=x-2");
+    EXPECT_EQ(steps.last(), "1$-2");
+    EXPECT_EQ(steps.notes.back(), "Since 1 does not equal -2, this equation has no solutions.");
+}
+
+TEST(SolveEquation, OfNumbersAloneSpeaksAtOnce) {
+    EXPECT_EQ(solveText(101, "2=2").notes[0], "Since 2 equals 2 then  can be any real number.");
+    EXPECT_EQ(solveText(101, "2=3").lines, (Lines{"2=3", "2$3"}));
+}
+
+TEST(SolveEquation, KeepsTheProblemWhereItsVariableVanishesUnseen) {
+    EXPECT_EQ(solveText(101, "0x=5").lines, (Lines{"0x=5", "0$5"}));
+    EXPECT_EQ(solveText(101, "0x=0").lines, (Lines{"0x=0", "0=0"}));
+}
+
+TEST(SolveEquation, TurnsToTheOtherVariableWhenTheFirstCancels) {
+    const Recorded steps = solveText(105, "y+x=y+3");
+    EXPECT_EQ(steps.last(), "x=3");
+    EXPECT_EQ(
+        steps.notes.back(),
+        "Subtract y from y to form the new term (0). This cannot be solved for y because it has been cancelled out "
+        "of the equation. Instead we will solve for x.");
+}
+
+TEST(SolveEquation, WithTwoVariablesLeavesTheOtherOnTheRight) {
+    const Ending cases[] = {
+        {"2x+3y=6", "y=-#2x/3#+2"}, {"2x=y+3", "y=2x-3"}, {"x+y=0", "y=-x"},
+        {"3y=-x", "y=-#x/3#"},      {"a+b=3", "a=-b+3"},  {"-y=x-4", "y=-x+4"},
+    };
+    for (const Ending& one : cases) EXPECT_EQ(solveText(105, one.text).last(), one.last) << one.text;
+}
+
+TEST(SolveEquation, DoesNotSpeakOfCancellingWhereItOnlyReorders) {
+    const Recorded steps = solveText(105, "y=3+2x");
+    EXPECT_EQ(steps.last(), "y=2x+3");
+    EXPECT_EQ(steps.notes.back().substr(0, 45), "Polynomials are written in decreasing order o");
+    EXPECT_EQ(solveText(105, "2x=y+3").notes.back(), "Remove cancelled terms from both sides.");
+}
+
+TEST(SolveEquation, WithParenthesesExpandsBothSides) {
+    startText(101, "2(x+3)=3(x-1)");
+    ws.PlainSum = false;
+    ExpandBothSides();
+    SolveEquation("x");
+    EXPECT_EQ(recorded().last(), "x=9");
+}
+
+TEST(DivideBothSides, WritesAFractionUpInParentheses) {
+    startText(101, "x/2=3");
+    DivideBothSides("x");
+    EXPECT_EQ(recorded().lines[1], "#(x/2)/[0.5]#=#3/[0.5]#");
+    EXPECT_EQ(recorded().last(), "x=6");
+}
+
+TEST(DivideBothSides, ToDecimalsInDecimalsMode) {
+    startText(101, "4x=6");
+    ws.UseFractions = false;
+    DivideBothSides("x");
+    EXPECT_EQ(recorded().last(), "x=1.5");
+}
+
+TEST(SolveForLeft, SwapsWhatStandsTheWrongWayRound) {
+    startText(101, "3=x");
+    EXPECT_TRUE(SolveForLeft("x"));
+    EXPECT_EQ(ImplodeTokens(), "+1x=+3");
+    EXPECT_EQ(ws.CurrentNote,
+              "Reorder the equation so the x is on the left hand side.  This step is not required but make the answer "
+              "easier to see.");
+    startText(101, "2x=4");
+    EXPECT_FALSE(SolveForLeft("x"));
+    EXPECT_FALSE(SolveForRight("x", false));
+}
+
+// --- higher degrees ----------------------------------------------------------------------------
+
+Recorded solvePolynomial(const std::string& text, int detail = 1) {
+    startText(101, text);
+    ws.StepDetail = detail;
+    ws.PlainSum = false;
+    ExpandBothSides();
+    EXPECT_FALSE(SolveEquation("x"));
+    return recorded();
+}
+
+TEST(SolveEquation, FactorsPolynomials) {
+    const Ending cases[] = {
+        {"x^2-5x+6=0", "(x-3)(x-2)=0"}, {"2x^2-5x-3=0", "(x-3)(2x+1)=0"},   {"x^2-4=0", "(x-2)(x+2)=0"},
+        {"2x^2+4x=0", "2x(x+2)=0"},     {"2x^2-10x+12=0", "2(x-3)(x-2)=0"}, {"-x^2+4=0", "(x-2)(x+2)=0"},
+        {"x^2=5x-6", "(x-3)(x-2)=0"},   {"x^3-5x^2+6x=0", "x(x-3)(x-2)=0"}, {"x^2+2x+1=0", "(x+1)(x+1)=0"},
+    };
+    for (const Ending& one : cases) EXPECT_EQ(solvePolynomial(one.text).last(), one.last) << one.text;
+}
+
+TEST(SolveEquation, SetsAPolynomialToZeroFirst) {
+    const Recorded steps = solvePolynomial("x^2=5x-6");
+    EXPECT_EQ(steps.lines[1], "x^2^[-5x][+6]=5x[-5x]-6[+6]");
+    EXPECT_EQ(steps.notes[1], "Set the polynomial equal to zero.");
+}
+
+TEST(SolveEquation, TakesAMinusOffBothSides) {
+    const Lines lines = solvePolynomial("-x^2+4=0").lines;
+    EXPECT_EQ(lines[1], "-(-x^2^+4)=-(0)");
+}
+
+TEST(QuadraticFormula, GivesRootsThatAreNoFractions) {
+    EXPECT_EQ(solvePolynomial("x^2-2=0").lines, (Lines{"x^2^-2=0", "(x-1.41421)(x+1.41421)=0", "x=1.41421,-1.41421"}));
+    EXPECT_EQ(solvePolynomial("x^2-2=0", 3).lines[1], "x=#-b\\~b^2^-4ac~/2a# for ax^2^+bx+c=0");
+}
+
+TEST(QuadraticFormula, SaysThatThereIsNoRealRoot) {
+    const Recorded steps = solvePolynomial("x^2+1=0");
+    EXPECT_EQ(steps.last(), "x has imaginary solutions...cannot factor.");
+    EXPECT_EQ(steps.lines.size(), 2U);
+}
+
+TEST(Factor, LeavesWhatDoesNotComeApart) {
+    for (const char* text : {"x+3", "x^2", "3x+2y"}) {
+        startText(103, text);
+        const std::string before = ImplodeTokens();
+        EXPECT_FALSE(Factor(0, 0, true)) << text;
+        EXPECT_EQ(ImplodeTokens(), before);
+    }
+}
+
+TEST(Factor, TakesTheSignOfTheFirstTermOut) {
+    startText(102, "-2x^3-4x");
+    EXPECT_FALSE(Factor(0, 0, true));
+    EXPECT_EQ(ImplodeTokens(), "-2x^1(+1x^2+2)");
+    EXPECT_EQ(ws.CurrentNote, "  -  Factor out the GCF");
+    startText(102, "-x^2+x");
+    EXPECT_FALSE(Factor(0, 0, true));
+    EXPECT_EQ(ImplodeTokens(), "-x^1(+1x^1-1)");
+}
+
+TEST(GcfOfList, IsTheGreatestNumberThatDividesAll) {
+    EXPECT_EQ(GcfOfList("4 6 10"), "2");
+    EXPECT_EQ(GcfOfList("7"), "7");
+    EXPECT_EQ(GcfOfList("3 5"), "1");
+}
+
+}  // namespace
+}  // namespace ordwise::test
