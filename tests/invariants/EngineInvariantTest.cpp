@@ -93,7 +93,7 @@ TEST(EngineInvariant, DecimalsModeStaysWithinItsRounding) {
         Problem problem = arithmeticProblem(draws);
         if (std::count(problem.typed.begin(), problem.typed.end(), '*') > 0) continue;
         const int places = draws.between(2, 4);
-        problem.settings = {{"use_fraction", 0}, {"RoundVar", std::to_string(places)}};
+        problem.settings = {{"use_fraction", "0"}, {"RoundVar", std::to_string(places)}};
         const Solution solution = solve(problem);
         const long double tolerance = places == 2 ? 0.03L : (places == 3 ? 0.003L : 0.0003L);
         book.add(problem, solution, arithmeticComplaints(problem, solution, oneNumber, tolerance));
