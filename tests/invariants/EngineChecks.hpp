@@ -17,12 +17,17 @@ namespace ordwise::test {
 [[nodiscard]] Complaints simplestRootComplaints(const Solution& solution);
 // The last line is a product of powers of different primes.
 [[nodiscard]] Complaints primePowerComplaints(const Solution& solution);
-// The last line is expanded, like terms gathered, in decreasing order, fractions reduced.
+// The last line is expanded, like terms gathered, fractions reduced. Its order is not looked at: a sum
+// that is only out of order is left as it was typed.
 [[nodiscard]] Complaints simplestPolynomialComplaints(const Solution& solution);
 // The last line is "letter=number", an identity "c=c" or a contradiction "a$b".
 [[nodiscard]] Complaints solvedEquationComplaints(const Solution& solution);
 
 // Whether the first line asks for something that does not exist: a division by zero.
 [[nodiscard]] bool dividesByZero(const Solution& solution);
+
+// Whether the solution had come to numbers whose sum may pass 16 bits, where fractions of one
+// denominator are documented to overflow.
+[[nodiscard]] bool reachesLargeNumbers(const Solution& solution);
 
 }  // namespace ordwise::test

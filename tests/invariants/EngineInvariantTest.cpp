@@ -19,7 +19,12 @@ void append(Complaints& all, const Complaints& more) {
     all.insert(all.end(), more.begin(), more.end());
 }
 
-// A typed division by zero ends in its message box, and only that may stand in the way.
+// A line by itself is the solution of a number or a fraction that was typed alone.
+bool isRestated(const Solution& solution) {
+    return solution.steps.size() == 1 && solution.typed.find_first_of("+-*^~|(") == std::string::npos;
+}
+
+// A typed division by zero ends in its message box, and so do numbers past a documented limit.
 Complaints arithmeticComplaints(const Problem& problem, const Solution& solution, Check simplest,
                                 long double tolerance = 0) {
     Complaints found = commonComplaints(problem, solution);
@@ -27,9 +32,10 @@ Complaints arithmeticComplaints(const Problem& problem, const Solution& solution
         if (solution.messages == std::vector<std::string>{"Division by 0!"}) return {};
         return {{"a division by zero passes", solution.last()}};
     }
+    if (solution.messages == std::vector<std::string>{"Overflow!"} && reachesLargeNumbers(solution)) found.clear();
     if (!solution.messages.empty() || solution.steps.empty()) return found;
     append(found, valueComplaints(solution, tolerance));
-    append(found, simplest(solution));
+    if (!isRestated(solution)) append(found, simplest(solution));
     return found;
 }
 
