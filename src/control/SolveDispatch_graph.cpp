@@ -55,6 +55,7 @@ Variables chooseVariable() {
 // The solved equation in x and y, whatever its letters were: the graph window knows only these.
 // e.g. "+1/1b=+2/1a", solved for b -> "+1/1y^+1=+2/1x"
 std::string inGraphLetters(std::string equation, const Variables& variables) {
+    if (variables.solveFor.empty()) return equation;  // e.g. 3=8
     if (!contains(equation, variables.solveFor)) {
         if (!variables.other.empty()) equation = replaced(equation, variables.other, "X");
     } else if (variables.solveFor != "y" && variables.other.empty()) {
