@@ -21,7 +21,7 @@ void append(Complaints& all, const Complaints& more) {
 
 // A line by itself is the solution of a number or a fraction that was typed alone.
 bool isRestated(const Solution& solution) {
-    return solution.steps.size() == 1 && solution.typed.find_first_of("+-*^~|(") == std::string::npos;
+    return solution.steps.size() == 1 && solution.typed.find_first_of("+-*^~|(", 1) == std::string::npos;
 }
 
 // A typed division by zero ends in its message box, and so do numbers past a documented limit.
