@@ -7,7 +7,8 @@
 
 namespace ordwise {
 
-// Every occurrence of `from` (not empty) replaced, left to right, what was put in not looked at.
+// Every occurrence of `from` replaced, left to right, what was put in not looked at; nothing where
+// `from` is empty.
 [[nodiscard]] std::string replaced(std::string text, std::string_view from, std::string_view to);
 // The pieces between the separators; an empty text has one empty piece. e.g. "4,,6" -> "4", "", "6"
 [[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);

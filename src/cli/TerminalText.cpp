@@ -58,6 +58,7 @@ std::string glyph(char c) {
         case '`': return "π";
         case '\\': return "±";
         case '{': return "÷";
+        case '$': return "≠";
         case '[':
         case ']': return "";
         default: return std::string(1, c);

@@ -68,7 +68,7 @@ void SimilarTriangles(const std::string& a1, const std::string& b1, const std::s
 
     AddStep("The sides of a similar triangle are equally proportioned:", "In other words, #a1/a2# = #b1/b2# = #c1/c2#");
     const std::array<SimilarSide, 3> sides{{{"a", a1, a2}, {"b", b1, b2}, {"c", c1, c2}}};
-    const SimilarSide& known = !a2.empty() ? sides[0] : !b2.empty() ? sides[1] : sides[2];
+    const SimilarSide& known = !a2.empty() ? sides[0] : !c2.empty() ? sides[2] : sides[1];
     if (!aboveZero(known.second)) {
         return complain("All sides of a triangle must have a length greater than zero.",
                         "It is impossible for a triangle to have a side less than or equal to 0.");

@@ -285,7 +285,8 @@ TEST_F(Worksheet, OpensEmptyWithTheHintAndTheCommandsOfTheTopic) {
         {82, true, false, false, true, false, true},     // "00000100000111"
         {81, false, true, false, true, true, true},      // "00000000011111"
         {120, false, false, false, true, true, true},    // and its bars, below
-        {54, false, false, false, false, false, false},  // numbers only
+        {54, false, false, false, false, false, true},   // decimals: its mask is above 1
+        {99, false, false, false, false, false, false},  // digits only
         {101, false, false, false, false, false, true},  // "00000011000011"
     };
     for (const auto& each : cases) {
