@@ -19,10 +19,12 @@ bool isDigit(char c) {
     return std::isdigit(static_cast<unsigned char>(c)) != 0;
 }
 
-// True where a line holds a number that a single cannot hold exactly.
+// True where a line holds a number that a single cannot hold exactly: more than six digits, on both
+// sides of the point, or the E form.
 bool beyondSingle(std::string_view line) {
     int run = 0;
     for (const char c : line) {
+        if (c == '.') continue;
         run = isDigit(c) ? run + 1 : 0;
         if (run > 6 || c == 'E') return true;
     }
@@ -149,7 +151,10 @@ Complaints valueComplaints(const Solution& solution, long double tolerance) {
     for (std::size_t i = 1; i < solution.steps.size(); ++i) {
         const std::string& before = solution.steps[i - 1].line;
         const std::string& line = solution.steps[i].line;
-        if (!sameExpression(before, line, toleranceFor(before, line, tolerance))) {
+        // A decimal is a fraction exactly, however many digits it has.
+        const bool rewritten = solution.steps[i].note == "Convert the decimal number to a fraction.";
+        const long double allowed = rewritten ? 0 : toleranceFor(before, line, tolerance);
+        if (!sameExpression(before, line, allowed)) {
             return {{"a line is not equal to the line before", beside(before, line)}};
         }
     }

@@ -6,11 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace ordwise::test {
 namespace {
-
-constexpr std::uint64_t seed = 20260722;
 
 using Generator = Problem (*)(Draws&);
 using Check = Complaints (*)(const Solution&);
@@ -41,7 +40,7 @@ Complaints arithmeticComplaints(const Problem& problem, const Solution& solution
 
 void survey(const std::string& heading, Generator generate, Check simplest, int count) {
     Survey book;
-    Draws draws(seed);
+    Draws draws(seedOfRun());
     for (int i = 0; i < count; ++i) {
         const Problem problem = generate(draws);
         const Solution solution = solve(problem);
@@ -90,7 +89,7 @@ TEST(EngineInvariant, NegativeExponentsAreRightLineByLine) {
 // The rounding of each term and product is allowed for; sums are small, so a real fault stands out.
 TEST(EngineInvariant, DecimalsModeStaysWithinItsRounding) {
     Survey book;
-    Draws draws(seed);
+    Draws draws(seedOfRun());
     const Check oneNumber = [](const Solution& solution) {
         const bool number = solution.last().find_first_of("#*(") == std::string::npos;
         return number ? Complaints() : Complaints{{"the last line is no decimal number", solution.last()}};
@@ -109,7 +108,7 @@ TEST(EngineInvariant, DecimalsModeStaysWithinItsRounding) {
 
 TEST(EngineInvariant, EquationsKeepTheirSolutions) {
     Survey book;
-    Draws draws(seed);
+    Draws draws(seedOfRun());
     for (int i = 0; i < 2500; ++i) {
         const Problem problem = equationProblem(draws);
         const Solution solution = solve(problem);
@@ -123,7 +122,7 @@ TEST(EngineInvariant, EquationsKeepTheirSolutions) {
 
 TEST(EngineInvariant, LinesForTheGraphKeepTheirSolutions) {
     Survey book;
-    Draws draws(seed);
+    Draws draws(seedOfRun());
     for (int i = 0; i < 1500; ++i) {
         const Problem problem = linearGraphProblem(draws);
         const Solution solution = solve(problem);
@@ -150,7 +149,7 @@ Bindings bindingsOf(const Problem& problem) {
 
 TEST(EngineInvariant, EvaluationGivesTheValueAtTheAnswers) {
     Survey book;
-    Draws draws(seed);
+    Draws draws(seedOfRun());
     for (int i = 0; i < 1500; ++i) {
         const Problem problem = evaluationProblem(draws);
         const Solution solution = solve(problem);
@@ -159,7 +158,8 @@ TEST(EngineInvariant, EvaluationGivesTheValueAtTheAnswers) {
         for (std::size_t s = 1; s < solution.steps.size() && found.empty(); ++s) {
             const auto before = valueOfMarkup(solution.steps[s - 1].line, bindings);
             const auto value = valueOfMarkup(solution.steps[s].line, bindings);
-            const bool right = before && value && same(*before, *value, before->approximate() > 9e5L ? 2e-5L : 0);
+            const bool right =
+                before && value && same(*before, *value, std::fabs(before->approximate()) > 9e5L ? 2e-5L : 0);
             if (!right) {
                 found.push_back({"a line is not equal to the line before",
                                  solution.steps[s - 1].line + "   then   " + solution.steps[s].line});

@@ -188,7 +188,7 @@ Problem arithmeticProblem(Draws& draws) {
 
 Problem fractionProblem(Draws& draws) {
     std::string typed = draws.chance(10) ? "-" : "";
-    const int count = draws.chance(60) ? 2 : draws.between(1, 5);
+    const int count = draws.chance(60) ? 2 : draws.between(1, 4);
     for (int i = 0; i < count; ++i) {
         const bool whole = draws.chance(12);
         // A fraction bar is read before a division sign, so a whole number is only added.
