@@ -142,20 +142,23 @@ bool combineOnePair(int group) {
     return true;
 }
 
-// Every term in lowest terms, in one step. A term 0 is dropped. e.g. 2/4+6/3 -> 1/2+2
+bool isReducible(const ExprTerm& term) {
+    return reducedText(term) != numberOf(term);
+}
+
+// Every term in lowest terms, in one step; a 0 among other terms goes. e.g. 2/4+6/3 -> 1/2+2
 void reduceTerms(int group) {
     std::string terms;
     bool reduced = false;
     bool dropped = false;
     for (int t = 1; t <= termCount(group); ++t) {
         const ExprTerm& term = termAt(group, t);
-        const std::string text = reducedText(term);
-        if (text == "0") {
-            dropped = dropped || text != numberOf(term) || termCount(group) > 1;
-            continue;
+        if (reducedText(term) == "0") {
+            dropped = dropped || isReducible(term) || termCount(group) > 1;
+        } else {
+            reduced = reduced || isReducible(term);
+            terms += term.lead + reducedText(term);
         }
-        reduced = reduced || text != numberOf(term);
-        terms += term.lead + text;
     }
     if (reduced || dropped) commitTerms(group, terms, reduced ? reduceNote : zeroNote);
 }
@@ -285,14 +288,12 @@ void multiplyOrFlip(int group, int place) {
                           "multiply the fractions.");
 }
 
-// A sum, or whole numbers among fractions, made ready for the common denominator. False if nothing
-// is left to do.
-bool prepareSum(int group) {
+// A sum of fractions and whole numbers, as far as it goes without another denominator.
+void prepareSum(int group) {
     CombineLikeDenominators(group);
     if (fractionCount(group) < termCount(group) - 1 && ws.ProblemType == fractionArithmeticTopic)
         ReduceExpression(group);
     reduceTerms(group);
-    return termCount(group) >= 2;
 }
 
 // Products and quotients from left to right, until the group is a sum or a single number.
@@ -307,23 +308,28 @@ void workProducts(int group) {
 }  // namespace
 
 void FractionArithmetic(int group) {
-    if (firstProduct(group) == 0 && !prepareSum(group)) return;
-    if (!ws.UseFractions || fractionCount(group) == 0) {
-        if (termCount(group) > 1) ReduceExpression(group);
-        return;
+    if (firstProduct(group) == 0) prepareSum(group);
+    if (ws.UseFractions && fractionCount(group) > 0) {
+        ws.StepClass = 3;
+        workProducts(group);
+        // Reducing may make denominators alike that were not. e.g. 2/4+1/2 -> 1/2+1/2
+        do {
+            CombineLikeDenominators(group);
+        } while (fractionCount(group) > 0 && alikePair(group).first != 0);
     }
-    ws.StepClass = 3;
-    workProducts(group);
-    CombineLikeDenominators(group);
-    if (termCount(group) >= 2) CombineByCommonDenominator(group);
+    if (termCount(group) < 2) return;
+    if (ws.UseFractions && fractionCount(group) > 0) {
+        CombineByCommonDenominator(group);
+    } else {
+        ReduceExpression(group);
+    }
 }
 
 void CombineLikeDenominators(int group) {
     for (int round = 0; round < combineRounds && combineOnePair(group); ++round) {
     }
     bool reducible = false;
-    for (int t = 1; t <= termCount(group); ++t)
-        reducible = reducible || reducedText(termAt(group, t)) != numberOf(termAt(group, t));
+    for (int t = 1; t <= termCount(group); ++t) reducible = reducible || isReducible(termAt(group, t));
     if (reducible) reduceTerms(group);
 }
 

@@ -11,6 +11,7 @@
 #include "basBreakdownFunc.hpp"
 #include "basReduceFunc.hpp"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <cstdlib>
@@ -307,15 +308,19 @@ bool keepConstantPower(TermPass& pass, const ExprTerm& term) {
     return true;
 }
 
-// The fraction that a decimal spells: the simplest one that prints as these digits.
-// e.g. 2.5 -> "5/2", 0.3333333 -> "1/3", 0.002431 -> "2431/1000000"
+// Significant digits of a decimal. e.g. "0.0250" -> 3, "0.3333333" -> 7
+int digitCount(const std::string& decimal) {
+    const std::size_t first = decimal.find_first_of("123456789");
+    if (first == std::string::npos) return 0;
+    return static_cast<int>(
+        std::count_if(decimal.begin() + static_cast<std::ptrdiff_t>(first), decimal.end(), isDigit));
+}
+
+// The fraction that a decimal spells. One of all seven digits of a single is taken for a fraction
+// that was cut off, and searched. e.g. 2.5 -> "5/2", 0.035937 -> "35937/1000000", 0.3333333 -> "1/3"
 std::string fractionOfDecimal(const ExprTerm& term) {
-    const std::string searched = FractionText(term.numerator);
-    const std::size_t bar = searched.find('/');
-    if (bar == std::string::npos) return searched;
-    const double value = lenientValueOf(searched) / lenientValueOf(searched.substr(bar + 1));
-    const bool sameDigits = textOf(static_cast<float>(value)) == textOf(std::fabs(term.numerator));
-    return sameDigits ? searched : simplestText(term);
+    constexpr int digitsOfSingle = 7;
+    return digitCount(textOf(term.numerator)) < digitsOfSingle ? simplestText(term) : FractionText(term.numerator);
 }
 
 // e.g. 2.5+1 -> 5/2+1
@@ -325,6 +330,22 @@ bool convertDecimal(TermPass& pass, const ExprTerm& term) {
     const std::string fraction = fractionOfDecimal(term);
     if (fraction == textOf(std::fabs(term.numerator))) return false;
     rewrite(pass, term, fraction, toFractionNote);
+    return true;
+}
+
+// In decimals the result alone is rounded, so that the terms of a sum keep their digits.
+// e.g. 0.0625 -> 0.06
+bool roundResult(TermPass& pass, const ExprTerm& term) {
+    static const char* const notes[] = {"Round to the nearest whole number (no decimal places).",
+                                        "Round to the nearest tenth (one digit after the decimal point).",
+                                        "Round to the nearest hundredth (two digits after the decimal point).",
+                                        "Round to the nearest thousandth (three digits after the decimal point)."};
+    if (ws.UseFractions || ws.MaxDepth != 0 || termCount(pass) != 1) return false;
+    if (!isPlainNumber(term) || isConstantPower(term) || term.denominator != 1.0F) return false;
+    const std::string result = FractionText(term.numerator);
+    if (result == textOf(std::fabs(term.numerator))) return false;
+    const int places = ws.RoundPlaces;
+    rewrite(pass, term, result, places <= 3 ? notes[places] : "Round to " + textOf(places) + " decimal places.");
     return true;
 }
 
@@ -402,6 +423,7 @@ constexpr Rule rules[] = {
     keepFraction,         // what is left of the written fractions
     keepConstantPower,    // before plain numbers, which a positive power is
     convertDecimal,       // before numbers are added: fractions are added by their own method
+    roundResult,          // a single number has nothing to be added to
     addNumber,            //
     simplifyCoefficient,  // letter terms only from here on
     openBin               // what no rule has taken

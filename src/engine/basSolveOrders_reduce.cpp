@@ -59,12 +59,13 @@ bool betweenBars(const std::string& text) {
 }
 
 // Numbers with a fraction among them, no decimals: e.g. 1/2+3, and any fractions between bars. An
-// expression whose variable has been replaced counts as numbers.
+// expression whose variable has been replaced counts as numbers. Where results are decimals, the
+// passes convert the fractions one by one.
 bool wantsFractionArithmetic(int group) {
     const std::string text = ImplodeTokens();
     const std::string own = groupText(ws.MaxDepth, group);
     const std::string& variable = ws.VarNames[1];
-    if (termCount(group) < 2 || !contains(own, "/") || contains(own, ".")) return false;
+    if (!ws.UseFractions || termCount(group) < 2 || !contains(own, "/") || contains(own, ".")) return false;
     const bool enough = fractionTokens() >= termCount(group) - 1 && variable.empty() && ws.MaxDepth == 0;
     const bool replacedVariable = !variable.empty() && !contains(text, variable);
     return betweenBars(text) || enough || replacedVariable;
@@ -84,7 +85,7 @@ bool wantsLastFractionArithmetic(int group) {
     const std::string text = ImplodeTokens();
     const bool plain = ws.VarNames[1].empty() && ws.MaxDepth == 0 && !holdsConstantPower(group);
     const bool fewFractions = fractionTokens() < termCount(group) - 1;
-    if (contains(text, ".") || termCount(group) < 2) return false;
+    if (!ws.UseFractions || contains(text, ".") || termCount(group) < 2) return false;
     return betweenBars(text) || (plain && !fewFractions);
 }
 
