@@ -58,10 +58,12 @@ void readNumber(const std::string& t, bool below, Monomial& factor) {
         factor.numText += t.substr(root);
         return;
     }
-    const std::vector<std::string> pieces = split(ExpandExponential(t), '/');
-    const auto value = static_cast<float>(lenientValueOf(pieces[0]));
-    (below ? factor.denominator : factor.numerator) *= value;
-    if (pieces.size() > 1) factor.denominator *= static_cast<float>(lenientValueOf(pieces[1]));
+    const std::vector<std::string> pieces = split(t, '/');
+    const auto value = [](const std::string& piece) {
+        return static_cast<float>(lenientValueOf(ExpandExponential(piece)));
+    };
+    (below ? factor.denominator : factor.numerator) *= value(pieces[0]);
+    if (pieces.size() > 1) factor.denominator *= value(pieces[1]);
 }
 
 // e.g. tokens -, 3, x, ^, 2, /, 4 -> -3, "x^2", 4
@@ -77,7 +79,8 @@ Monomial readFactor(int first, int last) {
         if (t == "^") {
             const bool negative = token(slot + 1) == "-";
             slot += negative ? 2 : 1;
-            letters += (negative ? "^-" : "^") + token(slot);
+            // An exponent may have been left out.
+            if (slot <= last) letters += (negative ? "^-" : "^") + token(slot);
         } else if (IsLetter(t)) {
             letters += t;
         } else {

@@ -214,7 +214,8 @@ std::string withoutExponentOne(const std::string& text) {
 }
 
 std::string markupOf(const std::string& tokenText) {
-    const std::string plain = withoutExponentOne(tokenText);
+    std::string plain = withoutExponentOne(tokenText);
+    if (plain.ends_with("^")) plain.pop_back();  // an exponent that was left out
     std::string closed;
     char open = 0;
     for (std::size_t at = 0; at < plain.size(); ++at) {
