@@ -42,7 +42,7 @@ struct Monomial {
 [[nodiscard]] std::string unsignedText(Monomial factor);
 [[nodiscard]] std::string signedText(const Monomial& factor);
 // Neither letters nor root nor an exponent other than 1. e.g. 3/4
-[[nodiscard]] bool isPlainNumber(const ExprTerm& term);
+[[nodiscard]] bool isBareNumber(const ExprTerm& term);
 
 // The exponent on the number itself, and the letters behind it. e.g. "^3x" -> 3, "x"; "x^3" -> 1, "x^3"
 struct NumberPower {

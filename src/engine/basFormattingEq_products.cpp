@@ -102,7 +102,7 @@ bool isWhole(float value) {
 std::string turnedOver(int depth, int group) {
     const ExprTerm& term = termOf(depth, group, 1);
     const float power = groupOf(depth, group).power;
-    if (ws.TermLast[depth][group] != 1 || !isPlainNumber(term) || !isWhole(power)) return "";
+    if (ws.TermLast[depth][group] != 1 || !isBareNumber(term) || !isWhole(power)) return "";
     if (term.numerator == 0) raise(FaultNumber::DivisionByZero);
     const float top = std::pow(term.denominator, -power);
     const float bottom = std::pow(term.numerator, -power);
@@ -167,7 +167,7 @@ std::string signedText(const Monomial& factor) {
     return (factor.numerator < 0 ? "-" : "+") + unsignedText(factor);
 }
 
-bool isPlainNumber(const ExprTerm& term) {
+bool isBareNumber(const ExprTerm& term) {
     return withoutExponentOne(term.numText).empty() && withoutExponentOne(term.denText).empty();
 }
 

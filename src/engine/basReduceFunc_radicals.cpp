@@ -216,7 +216,7 @@ bool ExpandIfPowers(int group) {
 bool AbsoluteValueStep(int group) {
     const int depth = ws.MaxDepth;
     const ExprTerm& term = termOf(depth, group, 1);
-    if (!groupOf(depth, group).isAbsolute || ws.TermLast[depth][group] != 1 || !isPlainNumber(term)) return false;
+    if (!groupOf(depth, group).isAbsolute || ws.TermLast[depth][group] != 1 || !isBareNumber(term)) return false;
     const float value = term.numerator;
     const std::string size = markupOf(unsignedText(monomialOf(term)));
     TakeAbsoluteValue(depth, group);

@@ -9,6 +9,7 @@
 #include "TextTools.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
+#include "basFormattingEq.hpp"
 #include "basReduceFunc.hpp"
 
 #include <algorithm>
@@ -50,9 +51,9 @@ bool isConstantPower(const ExprTerm& term) {
     return lettersOf(term).substr(0, 1) == "^";
 }
 
-// e.g. 5, 2.5, 2^3; not x, 3/x, 1/2
+// e.g. 5, 2.5, 2^3; not x, 2^3x, 3/x, 1/2
 bool isPlainNumber(const ExprTerm& term) {
-    const bool noLetters = lettersOf(term).empty() || isConstantPower(term);
+    const bool noLetters = numberPowerOf(lettersOf(term)).letters.empty();
     return term.fractionText.empty() && noLetters && lettersBelow(term).empty() && !term.inDenominator;
 }
 

@@ -304,7 +304,7 @@ bool SolveForLeft(const std::string& variable) {
     ws.StepClass = 2;
     const std::vector<ExprTerm> right = termsOf(1);
     const std::vector<ExprTerm> left = termsOf(0);
-    if (right.size() == 1 && holds(right[0], variable) && left.size() == 1 && isPlainNumber(left[0])) {
+    if (right.size() == 1 && holds(right[0], variable) && left.size() == 1 && isBareNumber(left[0])) {
         swapSides("Reorder the equation so the " + variable +
                   " is on the left hand side.  This step is not required but make the answer easier to see.");
         return true;

@@ -151,6 +151,14 @@ TEST(OrderPolynomial, ReadsFactorsOfEveryKind) {
     }
 }
 
+TEST(OrderPolynomial, ReadsNumbersInENotationAboveABar) {
+    startText(91, "1");
+    ExplodeTokens("+6.5E+13/9*2");
+    CommitStep();
+    OrderPolynomial(0);
+    EXPECT_EQ(ImplodeTokens(), "+1.3E+14/9");
+}
+
 TEST(ProductPair, NamesTheFactorsAndLeavesTheCommitToItsCaller) {
     startText(91, "2+3*4-5");
     EXPECT_EQ(ProductPair(0, 0), "3,4");

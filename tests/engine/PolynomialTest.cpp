@@ -56,6 +56,11 @@ TEST(ExpandPolynomial, ExpandsAndGathers) {
     for (const Ending& one : cases) EXPECT_EQ(solveText(102, one.text).last(), one.last) << one.text;
 }
 
+TEST(ExpandPolynomial, KeepsTheLettersBehindANumbersPower) {
+    EXPECT_EQ(solveText(150, "2^4x-8").last(), "16x-8");
+    EXPECT_EQ(solveText(150, "3+7^2x^-1").last(), "#49/x#+3");
+}
+
 TEST(ExpandPolynomial, MultipliesDecimalsAsTheyPrint) {
     EXPECT_EQ(solveText(91, "8.1*85").lines[1], "688.5");
     EXPECT_EQ(solveText(120, "254*4*9.22").lines[2], "9367.52");
