@@ -11,8 +11,8 @@
 namespace ordwise {
 
 // a1, b1, c1 are the sides of the one triangle, and a2, b2, c2 those of the similar one, of which
-// one is filled; the others are worked out and written back. If several are filled, the first
-// counts. Fault 11 when the ratio of the sides rounds to zero.
+// one is filled; the others are worked out and written back. If several are filled, the first of
+// a2, c2, b2 counts. Fault 11 when the ratio of the sides rounds to zero.
 // e.g. 3, 4, 5 and a2 = 6 -> b2 = 8, c2 = 10
 void SimilarTriangles(const std::string& a1, const std::string& b1, const std::string& c1, std::string& a2,
                       std::string& b2, std::string& c2);
