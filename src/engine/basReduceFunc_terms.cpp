@@ -358,9 +358,10 @@ bool addNumber(TermPass& pass, const ExprTerm& term) {
     return true;
 }
 
-// The coefficient of a letter term. e.g. 4x/6 -> 2x/3; in decimals x/2 -> 0.5x
+// The coefficient of a letter term. e.g. 4x/6 -> 2x/3; in decimals x/2 -> 0.5x. Under an exponent of
+// its own the number waits: 8^3x/10 is not 4^3x/5.
 bool simplifyCoefficient(TermPass& pass, const ExprTerm& term) {
-    if (term.denominator == 1.0F) return false;
+    if (term.denominator == 1.0F || isConstantPower(term)) return false;
     const std::string simplest = simplestText(term);
     if (simplest == textOf(std::fabs(term.numerator)) + "/" + textOf(term.denominator)) return false;
     const std::string note = ws.UseFractions ? "Reduce fraction by dividing the numerator and denominator by " +

@@ -140,14 +140,20 @@ std::string quotientText(const Monomial& term, const Monomial& coefficient) {
     return FractionText(above / below);
 }
 
-// e.g. -2x by 3 -> "-2x/3"
+// e.g. -2x by 3 -> "-2x/3"; "" for what is 0, or rounds to it
 std::string dividedTerm(const ExprTerm& term, const Monomial& coefficient) {
     const Monomial factor = monomialOf(term);
     const std::vector<std::string> value = split(quotientText(factor, coefficient), '/');
-    if (value[0] == "0") return "+0";
+    if (value[0] == "0") return "";
     std::string text = ((factor.numerator < 0) != (coefficient.numerator < 0) ? "-" : "+") + value[0] + factor.numText;
     if (value.size() > 1 || !factor.denText.empty()) text += "/" + (value.size() > 1 ? value[1] : "") + factor.denText;
     return text;
+}
+
+std::string dividedSide(const std::vector<ExprTerm>& terms, const Monomial& coefficient) {
+    std::string text;
+    for (const ExprTerm& term : terms) text += dividedTerm(term, coefficient);
+    return text.empty() ? "+0" : text;
 }
 
 // --- the ends ----------------------------------------------------------------------------------
@@ -342,21 +348,13 @@ void DivideBothSides(const std::string& variable) {
     const float value = coefficient.numerator / coefficient.denominator;
     if (value == 1) return;
     std::string division;
-    std::string result;
-    for (const std::vector<ExprTerm>* side : {&left, &right}) {
-        if (side == &right) {
-            division += "=";
-            result += "=";
-        }
-        for (const ExprTerm& term : *side) {
-            division += divisionMark(term, value);
-            result += dividedTerm(term, coefficient);
-        }
-    }
+    for (const ExprTerm& term : left) division += divisionMark(term, value);
+    division += "=";
+    for (const ExprTerm& term : right) division += divisionMark(term, value);
     if (division[0] == '+') division.erase(0, 1);
     writeStep(replaced(division, "=+", "="),
               "Solve for " + variable + " by dividing both sides of the equation by " + textOf(std::fabs(value)) + ".");
-    ExplodeTokens(result);
+    ExplodeTokens(dividedSide(left, coefficient) + "=" + dividedSide(right, coefficient));
     ws.CurrentNote = simplifyNote(variable);
     CommitStep();
 }

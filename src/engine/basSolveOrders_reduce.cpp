@@ -58,6 +58,15 @@ bool betweenBars(const std::string& text) {
     return ws.MaxDepth == 1 && contains(text, "|");
 }
 
+bool holdsConstantPower(int group) {
+    for (int t = 1; t <= termCount(group); ++t) {
+        const ExprTerm& term = termOf(ws.MaxDepth, group, t);
+        if (term.varExp[1] != 1.0F && (term.numText.substr(0, 1) == "^" || term.denText.substr(0, 1) == "^"))
+            return true;
+    }
+    return false;
+}
+
 // Numbers with a fraction among them, no decimals: e.g. 1/2+3, and any fractions between bars. An
 // expression whose variable has been replaced counts as numbers. Where results are decimals, the
 // passes convert the fractions one by one.
@@ -66,18 +75,10 @@ bool wantsFractionArithmetic(int group) {
     const std::string own = groupText(ws.MaxDepth, group);
     const std::string& variable = ws.VarNames[1];
     if (!ws.UseFractions || termCount(group) < 2 || !contains(own, "/") || contains(own, ".")) return false;
+    if (holdsConstantPower(group)) return false;  // fractions are read without exponents
     const bool enough = fractionTokens() >= termCount(group) - 1 && variable.empty() && ws.MaxDepth == 0;
     const bool replacedVariable = !variable.empty() && !contains(text, variable);
     return betweenBars(text) || enough || replacedVariable;
-}
-
-bool holdsConstantPower(int group) {
-    for (int t = 1; t <= termCount(group); ++t) {
-        const ExprTerm& term = termOf(ws.MaxDepth, group, t);
-        if (term.varExp[1] != 1.0F && (term.numText.substr(0, 1) == "^" || term.denText.substr(0, 1) == "^"))
-            return true;
-    }
-    return false;
 }
 
 // What the passes have left apart: numbers without a variable, or anything between bars.

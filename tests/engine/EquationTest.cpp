@@ -100,6 +100,10 @@ TEST(DivideBothSides, ToDecimalsInDecimalsMode) {
     ws.UseFractions = false;
     DivideBothSides("x");
     EXPECT_EQ(recorded().last(), "x=1.5");
+    startText(105, "500y=x+60");
+    ws.UseFractions = false;
+    DivideBothSides("y");
+    EXPECT_EQ(recorded().last(), "y=0.12") << "a term that rounds to nothing is left out";
 }
 
 TEST(SolveForLeft, SwapsWhatStandsTheWrongWayRound) {

@@ -59,6 +59,8 @@ TEST(ExpandPolynomial, ExpandsAndGathers) {
 TEST(ExpandPolynomial, KeepsTheLettersBehindANumbersPower) {
     EXPECT_EQ(solveText(150, "2^4x-8").last(), "16x-8");
     EXPECT_EQ(solveText(150, "3+7^2x^-1").last(), "#49/x#+3");
+    EXPECT_EQ(solveText(150, "8^3x/10").last(), "#256x/5#");
+    EXPECT_EQ(solveText(150, "7/3-6^3").last(), "-#641/3#");
 }
 
 TEST(ExpandPolynomial, MultipliesDecimalsAsTheyPrint) {
