@@ -78,7 +78,7 @@ TEST_F(LineTest, StacksAFractionAndLeavesASlashAlone) {
     EXPECT_DOUBLE_EQ(run("3").x, indent) << "at once behind the blanks";
     EXPECT_DOUBLE_EQ(run("4").x, indent);
     EXPECT_DOUBLE_EQ(bar().y, run("3").y) << "drawn at the height of the numerator";
-    EXPECT_EQ(ws.DenominatorEndX, static_cast<int>(indent + widthOf("4") + 0.5));
+    EXPECT_NEAR(ws.DenominatorEndX, indent + widthOf("4"), 0.5);
     draw("3/4");
     EXPECT_EQ(run("3/4").text, "3/4");
 }
