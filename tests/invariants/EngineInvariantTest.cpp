@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace ordwise::test {
 namespace {
@@ -21,6 +22,13 @@ void append(Complaints& all, const Complaints& more) {
 // A line by itself is the solution of a number or a fraction that was typed alone.
 bool isRestated(const Solution& solution) {
     return solution.steps.size() == 1 && solution.typed.find_first_of("+-*^~|(", 1) == std::string::npos;
+}
+
+// The value of a line with 2 for every letter, if it can be read.
+std::optional<ExactValue> readableValue(const std::string& line) {
+    Bindings twos;
+    for (const char letter : lettersOf(line)) twos[letter] = ExactValue(2);
+    return valueOfMarkup(line, twos);
 }
 
 // A typed division by zero ends in its message box, and so do numbers past a documented limit.
@@ -169,6 +177,36 @@ TEST(EngineInvariant, EvaluationGivesTheValueAtTheAnswers) {
         book.add(problem, solution, found);
     }
     book.report("Evaluation");
+}
+
+// Keys at random, as someone leaning on the keyboard: whatever the check lets stand is solved, and every
+// line is equal to the line before. What stands may be no mathematics (x^, .5 without digits): then it
+// only has to end.
+TEST(EngineInvariant, WhatTheKeysLetStandIsRightLineByLine) {
+    struct Mashed {
+        const char* topic;
+        const char* keys;
+    };
+    static constexpr Mashed topics[] = {
+        {"Arithmetic", "0123456789....++--**//"},        {"Fraction Arithmetic", "123456789+-*////"},
+        {"Calculating With Exponents", "123456+-*/^^^"}, {"Calculating Roots", "123456789+-*~~~"},
+        {"Exponential Notation", "123456789**^^"},       {"Simplifying Polynomials", "12345xxx+-*/^(())"},
+        {"Absolute Values", "123456789+-*/||."},         {"Complex Arithmetic Expressions", "123456+-*/^(())"},
+        {"Negative Exponents", "12345xx+--*/^^"},
+    };
+    Survey book;
+    for (const auto& [topic, keys] : topics) {
+        Draws draws(seedOfRun());
+        for (int i = 0; i < 400; ++i) {
+            const Problem problem = mashedProblem(draws, topic, keys);
+            const Solution solution = solve(problem);
+            const auto value = solution.steps.empty() ? std::nullopt : readableValue(solution.steps.front().line);
+            if (!solution.canSolve || !value) continue;
+            const Check nothingMore = [](const Solution&) { return Complaints(); };
+            book.add(problem, solution, arithmeticComplaints(problem, solution, nothingMore));
+        }
+    }
+    book.report("Keys at random");
 }
 
 }  // namespace

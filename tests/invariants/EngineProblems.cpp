@@ -173,6 +173,7 @@ std::string absoluteTerm(Draws& draws) {
 
 std::string negativeExponentTerm(Draws& draws) {
     if (draws.chance(15)) return draws.number(2);
+    if (draws.chance(12)) return powerOf(draws, true) + (draws.chance(50) ? "x" : "");
     std::string term = (draws.chance(70) ? draws.number(1) : "") + "x";
     if (draws.chance(85)) term += (draws.chance(75) ? "^-" : "^") + std::to_string(draws.between(1, 5));
     if (draws.chance(20)) term += "/" + draws.number(1);

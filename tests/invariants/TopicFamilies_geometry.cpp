@@ -164,8 +164,8 @@ double roundedToTwo(double x) {
     return std::nearbyint(x * 100) / 100;
 }
 
-// a1 = T3, b1 = T2, c1 = T1; a2 = T4, b2 = T6, c2 = T5. With a2 given and one of the other two, the
-// last line gives c2.
+// a1 = T3, b1 = T2, c1 = T1; a2 = T4, b2 = T6, c2 = T5, one of the last three left empty. The known side
+// is a2, or c2 without it; the last line gives the last of the other two.
 DrawnProblem drawSimilarTriangles(Draws& draws) {
     DrawnProblem drawn{{"Similar Triangles", ""}, {}};
     const auto side = [&](int box) {
@@ -176,19 +176,22 @@ DrawnProblem drawSimilarTriangles(Draws& draws) {
     const double a1 = side(3);
     const double b1 = side(2);
     const double c1 = side(1);
-    const double a2 = side(4);
-    side(draws.oneOf<int>({5, 6}));
-    if (a1 <= 0 || b1 <= 0 || c1 <= 0 || a2 <= 0) {
+    const int missing = draws.oneOf<int>({4, 5, 6});
+    const double a2 = missing == 4 ? 0 : side(4);
+    const double c2 = missing == 5 ? 0 : side(5);
+    if (missing != 6) side(6);
+    const double known = missing == 4 ? c2 : a2;
+    if (a1 <= 0 || b1 <= 0 || c1 <= 0 || known <= 0) {
         drawn.wanted.line = "All sides of a triangle must have a length greater than zero.";
         return drawn;
     }
     // The ratio is shown and used with two places; a ratio that rounds to 0 divides by 0.
-    const double ratio = roundedToTwo(a1 / a2);
+    const double ratio = roundedToTwo((missing == 4 ? c1 : a1) / known);
     if (ratio == 0) {
         drawn.wanted.message = "Division by 0!";
         return drawn;
     }
-    drawn.wanted.last = c1 / ratio;
+    drawn.wanted.last = (missing == 4 ? b1 : c1) / ratio;
     drawn.wanted.places = 2;
     return drawn;
 }
