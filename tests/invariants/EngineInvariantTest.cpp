@@ -188,10 +188,13 @@ TEST(EngineInvariant, WhatTheKeysLetStandIsRightLineByLine) {
         const char* keys;
     };
     static constexpr Mashed topics[] = {
-        {"Arithmetic", "0123456789....++--**//"},        {"Fraction Arithmetic", "123456789+-*////"},
-        {"Calculating With Exponents", "123456+-*/^^^"}, {"Calculating Roots", "123456789+-*~~~"},
-        {"Exponential Notation", "123456789**^^"},       {"Simplifying Polynomials", "12345xxx+-*/^(())"},
-        {"Absolute Values", "123456789+-*/||."},         {"Complex Arithmetic Expressions", "123456+-*/^(())"},
+        {"Arithmetic", "0123456789....++--**//"},
+        {"Fraction Arithmetic", "123456789+-*////"},
+        {"Calculating With Exponents", "123456+-*/^^^"},
+        {"Calculating Roots", "123456789+-*~~~"},
+        {"Simplifying Polynomials", "12345xxx+-*/^(())"},
+        {"Absolute Values", "123456789+-*/||."},
+        {"Complex Arithmetic Expressions", "123456+-*/^(())"},
         {"Negative Exponents", "12345xx+--*/^^"},
     };
     Survey book;
