@@ -75,12 +75,27 @@ SolveRequest solveRequest(const nlohmann::json& request) {
     return result;
 }
 
+ExampleRequest exampleRequest(const nlohmann::json& request) {
+    ExampleRequest result;
+    result.topic = textMember(request, "topic", true);
+    result.complex = flagMember(request, "complex");
+    result.seed = freshSeed();
+    if (const nlohmann::json* seed = member(request, "seed")) {
+        if (!seed->is_number_unsigned()) throw BadRequest("\"seed\" must be a whole number from 0 on.");
+        result.seed = seed->get<std::uint64_t>();
+    }
+    eachMember(request, "settings",
+               [&](const std::string& key, const std::string& value) { result.settings[key] = value; });
+    return result;
+}
+
 Json dispatch(const nlohmann::json& request) {
     if (!request.is_object()) throw BadRequest("A request must be a JSON object.");
     const std::string op = textMember(request, "op", true);
     if (op == "solve") return answerSolve(solveRequest(request));
     if (op == "keys") return answerKeys({textMember(request, "topic", true), textMember(request, "text", true)});
-    throw BadRequest("There is no op \"" + op + "\"; it is solve or keys.");
+    if (op == "example") return answerExample(exampleRequest(request));
+    throw BadRequest("There is no op \"" + op + "\"; it is solve, keys or example.");
 }
 
 }  // namespace

@@ -95,6 +95,29 @@ int runSolve(SolveOptions& options, std::ostream& out, std::ostream& err) {
     return exitRefused;
 }
 
+struct ExampleOptions {
+    ExampleRequest request;
+    std::vector<std::string> settings;
+    bool json = false;
+};
+
+int runExample(ExampleOptions& options, std::ostream& out, std::ostream& err) {
+    for (const std::string& setting : options.settings) {
+        const auto [key, value] = assignment("--set", setting);
+        options.request.settings[key] = value;
+    }
+    const Json answer = answerExample(options.request);
+    if (options.json) {
+        out << dumped(answer) << '\n';
+    } else {
+        printSolution(answer, out);
+        out << "--seed " << options.request.seed << " makes up this problem again.\n";
+    }
+    if (wasSolved(answer)) return exitDone;
+    err << "ordwise-cli: " << failureSentence(answer) << '\n';
+    return exitRefused;
+}
+
 int runKeys(KeysRequest request, bool json, std::ostream& out) {
     unmark(request.text);
     const Json answer = answerKeys(request);
@@ -149,6 +172,17 @@ void addSolveOptions(CLI::App& command, SolveOptions& options) {
     command.add_flag("--json", options.json, "One JSON object");
 }
 
+void addExampleOptions(CLI::App& command, ExampleOptions& options) {
+    options.request.seed = freshSeed();
+    command.add_option("TOPIC", options.request.topic, "Name of the topic, exactly")->required();
+    command.add_flag("--complex", options.request.complex, "A harder problem");
+    command.add_option("--seed", options.request.seed, "The same number makes up the same problem");
+    command.add_option("--set", options.settings, "KEY=VALUE, a setting of the per-user store")
+        ->expected(1)
+        ->take_all();
+    command.add_flag("--json", options.json, "One JSON object");
+}
+
 }  // namespace
 
 int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
@@ -156,6 +190,7 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     app.require_subcommand(1);
     app.set_version_flag("--version", ORDWISE_VERSION);
     SolveOptions solve;
+    ExampleOptions example;
     KeysRequest keys;
     bool json = false;
     std::function<int()> run;
@@ -173,6 +208,10 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     CLI::App* solveCommand = app.add_subcommand("solve", "Solve a problem");
     addSolveOptions(*solveCommand, solve);
     solveCommand->callback([&] { run = [&] { return runSolve(solve, out, err); }; });
+
+    CLI::App* exampleCommand = app.add_subcommand("example", "Make up a problem and solve it");
+    addExampleOptions(*exampleCommand, example);
+    exampleCommand->callback([&] { run = [&] { return runExample(example, out, err); }; });
 
     CLI::App* batch = app.add_subcommand("batch", "Answer requests, one JSON object a line on standard input");
     batch->callback([&] { run = [&] { return runBatch(in, out, err); }; });

@@ -1,12 +1,14 @@
 #include "Requests.hpp"
 
 #include "Catalogue.hpp"
+#include "Examples.hpp"
 #include "FlatProblem.hpp"
 #include "FreshProgram.hpp"
 #include "GuidedInput.hpp"
 #include "NearestNames.hpp"
 #include "NumberText.hpp"
 #include "PlainPlatform.hpp"
+#include "RandomDraws.hpp"
 #include "SettingsTable.hpp"
 #include "SolveDriver.hpp"
 #include "TextTools.hpp"
@@ -16,6 +18,7 @@
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 
+#include <random>
 #include <string>
 
 namespace ordwise {
@@ -23,19 +26,26 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr int mostLetters = 3;
+
 bool solveEnabled() {
     return frmMain.mnuSolve.Enabled;
 }
 
-// A fresh program with the settings of the request and the worksheet of its topic open.
-void openWorksheet(const std::string& topic, const std::map<std::string, std::string>& settings) {
-    if (findTopic(topic) == nullptr) throw BadRequest(unknownTopicSentence(topic));
+// A fresh program with the settings of the request.
+void startProgram(const std::map<std::string, std::string>& settings) {
     startFreshProgram();
     frmMain.mnuShowStep.Checked = false;
     for (const auto& [key, value] : settings) {
         std::string reason;
         if (!applySetting(key, value, reason)) throw BadRequest(reason);
     }
+}
+
+// The same with the worksheet of the topic open.
+void openWorksheet(const std::string& topic, const std::map<std::string, std::string>& settings) {
+    if (findTopic(topic) == nullptr) throw BadRequest(unknownTopicSentence(topic));
+    startProgram(settings);
     TreeViewSelect(topic);
     Form_Load();
 }
@@ -151,6 +161,22 @@ Json combosAsTheyStand() {
     return combos;
 }
 
+// What stands on the worksheet, and its solution if `run`: the object of every command that solves.
+Json worksheetAnswer(const Json& refused, bool canSolve, bool run, const PlainPlatform& outside) {
+    return Json{{"topic", ws.TopicName},
+                {"type", static_cast<int>(ws.ProblemType)},
+                {"typed", ImplodeInput()},
+                {"markup", ImplodeCanon()},
+                {"refused", refused},
+                {"canSolve", canSolve},
+                {"boxes", boxesAsTheyStand()},
+                {"combos", combosAsTheyStand()},
+                {"steps", run ? stepsTaken() : Json::array()},
+                {"messages", messagesShown(outside)},
+                {"prompts", promptsShown(outside)},
+                {"graph", run ? graphHandedOver() : Json(nullptr)}};
+}
+
 }  // namespace
 
 Json answerSolve(const SolveRequest& request) {
@@ -164,11 +190,10 @@ Json answerSolve(const SolveRequest& request) {
     Json refused = typeProblem(request);
     for (Json& box : fillBoxes(request.boxes)) refused.push_back(std::move(box));
 
-    Json answer{{"topic", request.topic},      {"type", static_cast<int>(ws.ProblemType)},
-                {"typed", ImplodeInput()},     {"markup", ImplodeCanon()},
-                {"refused", refused},          {"canSolve", solveEnabled()},
-                {"boxes", boxesAsTheyStand()}, {"combos", combosAsTheyStand()}};
-    const bool run = solveEnabled() && (refused.empty() || request.dropRefused);
+    const bool canSolve = solveEnabled();
+    const bool run = canSolve && (refused.empty() || request.dropRefused);
+    // As it stands before the run: a solve may rewrite boxes and engine text.
+    Json answer = worksheetAnswer(refused, canSolve, false, outside);
     if (run) {
         try {
             compute_Click();
@@ -182,6 +207,26 @@ Json answerSolve(const SolveRequest& request) {
     answer["prompts"] = promptsShown(outside);
     answer["graph"] = run ? graphHandedOver() : Json(nullptr);
     return answer;
+}
+
+Json answerExample(const ExampleRequest& request) {
+    PlainPlatform outside;
+    openWorksheet(request.topic, request.settings);
+    seedDraws(request.seed);
+    if (request.complex) ws.ComplexExamples = complexLevel;
+    // A polynomial is evaluated at values that are asked for, one a letter.
+    for (int letter = 0; letter < mostLetters; ++letter) outside.dialogs.answers.push_back(textOf(RandInt2to9()));
+    const Example example = example_Click();
+    const bool run = !ws.InputOpen;
+    Json answer = worksheetAnswer(Json::array(), run, run, outside);
+    // The engine has used the cells of the rewrite for its own lines since.
+    answer["markup"] = ws.ProblemType < firstPaperTopic ? "" : example.line;
+    return answer;
+}
+
+std::uint64_t freshSeed() {
+    std::random_device source;
+    return source() % 1000000;
 }
 
 bool wasSolved(const Json& answer) {

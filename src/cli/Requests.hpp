@@ -4,6 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdint>
 #include <map>
 #include <stdexcept>
 #include <string>
@@ -38,13 +39,24 @@ struct KeysRequest {
     std::string text;  // every character a key; a backspace is U+0008
 };
 
+struct ExampleRequest {
+    std::string topic;
+    bool complex = false;
+    std::uint64_t seed = 0;  // the same seed makes up the same problem
+    std::map<std::string, std::string> settings;
+};
+
+// A seed for a request that names none, different from the ones before. Small enough to be typed.
+[[nodiscard]] std::uint64_t freshSeed();
+
 // The answers as JSON objects, keys in the documented order. They throw BadRequest for an unknown
 // topic (naming the nearest ones), a box, combo or setting that there is not, and AnswersUsedUp.
 [[nodiscard]] nlohmann::ordered_json answerSolve(const SolveRequest& request);
+[[nodiscard]] nlohmann::ordered_json answerExample(const ExampleRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerKeys(const KeysRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerTopics();
 
-// A request of a batch: {"op": "solve" or "keys", "topic": ..., ...}. Never throws for bad input:
+// A request of a batch: {"op": "solve", "keys" or "example", "topic": ..., ...}. Never throws for bad input:
 // a request that cannot be read is answered with {"error": "..."}.
 [[nodiscard]] nlohmann::ordered_json answerRequest(const nlohmann::json& request);
 // The same for one line of text.

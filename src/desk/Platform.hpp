@@ -28,6 +28,9 @@ public:
     virtual ~WindowOpener() = default;
     virtual void show(std::string_view name) = 0;
     virtual void unload(std::string_view name) = 0;
+    // A chance for a window to show what has changed in the middle of a command, such as a problem
+    // being written key by key.
+    virtual void redraw(std::string_view /*name*/) {}
 };
 
 class Clock {

@@ -92,7 +92,7 @@ void arrangePicture(const WorksheetLayout& layout) {
     }
     for (const PlacedLabel& placed : layout.labels) showLabel(placed, layout.boxes);
     if (ws.ProblemType == metersTopic || ws.ProblemType == gramsTopic) {
-        const auto& units = ws.ProblemType == metersTopic ? meterUnits : gramUnits;
+        const auto& units = unitsOf(ws.ProblemType);
         fillCombo(frmPaper.Combo1, units, 65, 86, 210);
         fillCombo(frmPaper.Combo2, units, 295, 86, 210);
     }
@@ -129,6 +129,14 @@ void placeAssistant() {
 }
 
 }  // namespace
+
+const std::vector<std::string>& unitsOf(int problemType) {
+    return problemType == metersTopic ? meterUnits : gramUnits;
+}
+
+const std::vector<std::string>& roundingChoices() {
+    return roundings;
+}
 
 void clearDesk() {
     for (int i = 0; i <= PaperWindow::lastSheet; ++i) {

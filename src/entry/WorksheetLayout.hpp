@@ -43,6 +43,11 @@ struct WorksheetLayout {
 // The layout of a box topic; null for a topic of the paper or an unknown one.
 [[nodiscard]] const WorksheetLayout* layoutOf(int problemType);
 
+// The entries of Combo1 and Combo2 for a topic of metric units, and of Combo3 for rounding.
+// e.g. metersTopic -> "mm (0.001 meters)", ..., "km (1000 meters)"
+[[nodiscard]] const std::vector<std::string>& unitsOf(int problemType);
+[[nodiscard]] const std::vector<std::string>& roundingChoices();
+
 // Lays out frmPaper for ProblemType, empty and open for input, with the hint as the note to be
 // explained, and enables the commands that the topic can use.
 void Form_Load();

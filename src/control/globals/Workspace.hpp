@@ -15,14 +15,16 @@
 #include "SlotArray.hpp"
 
 #include <cstdint>
+#include <deque>
 #include <string>
 
 namespace ordwise {
 
-inline constexpr int lastToken = 2000;  // the highest slot of a token array
-inline constexpr int lastStep = 200;    // the highest step
-inline constexpr int lastLevel = 20;    // the deepest parenthesis
-inline constexpr int noStepClass = 99;  // StepClassOf a step that CommitStep has not recorded
+inline constexpr int lastToken = 2000;    // the highest slot of a token array
+inline constexpr int lastStep = 200;      // the highest step
+inline constexpr int lastTestLine = 200;  // the highest line of a practice test
+inline constexpr int lastLevel = 20;      // the deepest parenthesis
+inline constexpr int noStepClass = 99;    // StepClassOf a step that CommitStep has not recorded
 
 using TokenArray = SlotArray<std::string, lastToken>;
 
@@ -145,6 +147,20 @@ struct GraphHandOver {
     TokenArray GraphValues;  // the pieces of a solved equation, one number, sign or letter a slot
 };
 
+// The practice test being made up. Life: until its window closes.
+struct PracticeTest {
+    BoundedArray<std::string, lastTestLine> TestProblems;  // the lines, headings and blank lines included
+    Int16 TestCount;                                       // the next free line
+    Int16 TestNumber;                                      // the problems so far, through all sections
+    std::string TestHeading;
+    std::string TestSuffix;  // stands behind the next problem
+};
+
+// What has been made up lately, so that it does not come again at once. Life: process.
+struct MadeUpProblems {
+    std::deque<std::string> RecentExamples;  // topic and problem, the latest last
+};
+
 struct Workspace : ProblemIdentity,
                    TypedInput,
                    SyntaxState,
@@ -153,7 +169,9 @@ struct Workspace : ProblemIdentity,
                    SolverResults,
                    DisplayState,
                    Settings,
-                   GraphHandOver {
+                   GraphHandOver,
+                   PracticeTest,
+                   MadeUpProblems {
     // As the process starts.
     Workspace();
 };

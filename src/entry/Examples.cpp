@@ -1,0 +1,196 @@
+#include "Examples.hpp"
+
+#include "Catalogue.hpp"
+#include "ExampleDraws.hpp"
+#include "GuidedInput.hpp"
+#include "NumberText.hpp"
+#include "Platform.hpp"
+#include "RandomDraws.hpp"
+#include "SolveDriver.hpp"
+#include "TextTools.hpp"
+#include "Windows.hpp"
+#include "WorksheetBoxes.hpp"
+#include "WorksheetErase.hpp"
+#include "WorksheetLayout.hpp"
+#include "Workspace.hpp"
+#include "basBreakdownFunc.hpp"
+
+#include <algorithm>
+#include <map>
+
+namespace ordwise {
+namespace {
+
+// A problem comes again only after so many others, if the topic has so many.
+constexpr std::size_t remembered = 49;
+// So many draws are made in search of one that is not remembered; of a topic that has but a few,
+// the draws go on only until it is not the one before.
+constexpr int patience = 200;
+constexpr int patienceWithTheLast = 2000;
+
+constexpr int negativeExponentsTopic = 150;
+
+// An empty paper for undrawn typing. An open bar or fraction of the problem before would outlive
+// ResetEngine, and typing would never come to an end.
+void emptyPaper() {
+    ResetStore(true);
+    ResetEngine(true);
+    ClearInput();
+    ws.BarDepth = 0;
+    ws.ParenSide = 0;
+    ws.FractionDepth = 0;
+    ws.SavedParenSide = false;
+}
+
+// The problem as typing leaves it: flat in `keys`, as the paper draws it in `line`.
+void readFromPaper(Example& example) {
+    example.keys = ImplodeInput();
+    example.line = ImplodeCanon();
+}
+
+// A template has no keys for the marks that the paper closes by itself.
+std::string flat(std::string_view drawn) {
+    std::string keys;
+    bool raised = false;
+    for (const char c : drawn) {
+        const bool closesExponent = c == '^' && raised;
+        if (c == '^') raised = !raised;
+        if (c != '#' && !closesExponent) keys += c;
+    }
+    return keys;
+}
+
+// Forms that are filled in; an expression has none.
+Example drawForm(const ExampleWish& wish) {
+    if (wish.type != negativeExponentsTopic) return drawNumbers(wish).value_or(Example{});
+    Example example;
+    example.keys = flat(create_example(wish.complex ? "#Ax^-B^/C#+Dx^-E^-Fx^-G^" : "Ax^-B^+Cx^-D^"));
+    return example;
+}
+
+// Whether what now stands on the paper is worth solving.
+bool putOnPaper(const ExampleWish& wish, const Example& example) {
+    emptyPaper();
+    return example.keys.empty() ? typeExpression(wish) : typeQuietly(example.keys);
+}
+
+Example drawOnce(const ExampleWish& wish) {
+    if (wish.type < firstPaperTopic) return drawBoxes(wish);
+    Example example;
+    do {
+        example = drawForm(wish);
+    } while (!putOnPaper(wish, example));
+    readFromPaper(example);
+    emptyPaper();
+    return example;
+}
+
+std::string nameOf(int type, const Example& example) {
+    return textOf(type) + ":" + example.line + example.suffix;
+}
+
+bool isRecent(const std::string& name) {
+    return std::find(ws.RecentExamples.begin(), ws.RecentExamples.end(), name) != ws.RecentExamples.end();
+}
+
+bool isTheLast(const std::string& name) {
+    return !ws.RecentExamples.empty() && ws.RecentExamples.back() == name;
+}
+
+void remember(const std::string& name) {
+    ws.RecentExamples.push_back(name);
+    if (ws.RecentExamples.size() > remembered) ws.RecentExamples.pop_front();
+}
+
+// More often than not the kind of problem that shows most.
+Example drawExample(int type, int level) {
+    const ExampleWish wish{type, level == complexLevel, drawChance(3, 5)};
+    Example example = drawOnce(wish);
+    for (int tries = 0; tries < patience && isRecent(nameOf(type, example)); ++tries) example = drawOnce(wish);
+    for (int tries = 0; tries < patienceWithTheLast && isTheLast(nameOf(type, example)); ++tries)
+        example = drawOnce(wish);
+    remember(nameOf(type, example));
+    return example;
+}
+
+bool isControl(const std::string& key) {
+    return key.size() == 1 && key[0] >= 0 && key[0] < ' ';
+}
+
+std::vector<RefusedKey> typeOnPaper(std::string_view text) {
+    int at = 0;
+    for (const std::string& key : characters(text)) {
+        // Enter and Backspace are commands of a keyboard and no part of a text.
+        if (isControl(key)) return {{at, key, ""}};
+        const KeyOutcome outcome = Form_KeyPress(key);
+        if (outcome == KeyOutcome::Refused) return {{at, key, ws.ExplainOverrideText}};
+        if (outcome != KeyOutcome::Accepted) return {{at, key, ""}};
+        if (frmMain.mnuPencil.Checked) platform.windows->redraw("frmPaper");
+        ++at;
+    }
+    return {};
+}
+
+void addTestLine(std::string_view text) {
+    ws.TestProblems[ws.TestCount] = textOf(ws.TestNumber + 1) + ") " + std::string(text) + ws.TestSuffix;
+    ws.TestCount += 1;
+    ws.TestNumber += 1;
+}
+
+}  // namespace
+
+std::string create_example(std::string_view pattern) {
+    std::map<char, std::string> digits;
+    std::string problem;
+    for (const char c : pattern) {
+        if (c < 'A' || c > 'Z') {
+            problem += c;
+            continue;
+        }
+        const auto known = digits.find(c);
+        problem += known != digits.end() ? known->second : digits.emplace(c, textOf(RandInt2to9())).first->second;
+    }
+    return problem;
+}
+
+Example GenerateExample(int type, bool forTest, int level) {
+    Example example = drawExample(type, level);
+    if (forTest) {
+        if (!example.suffix.empty()) ws.TestSuffix = example.suffix;
+        ExampleChop(example.line, true);
+    } else {
+        fillWorksheet(example.boxes, example.combos);
+        ExampleChop(example.keys, false);
+    }
+    return example;
+}
+
+std::vector<RefusedKey> ExampleChop(std::string_view text, bool forTest) {
+    if (forTest) {
+        addTestLine(text);
+        return {};
+    }
+    std::vector<RefusedKey> refused;
+    if (ws.ProblemType >= firstPaperTopic) refused = typeOnPaper(text);
+    if (refused.empty() && frmMain.mnuSolve.Enabled) compute_Click();
+    return refused;
+}
+
+Example example_Click() {
+    emptyPaper();
+    ws.ProblemText.clear();
+    resetLight();
+    disableSolvedCommands();
+    clearBoxes();
+    clearDesk();
+    ws.InputOpen = true;
+    return GenerateExample(ws.ProblemType, false, ws.ComplexExamples);
+}
+
+void fillWorksheet(const std::array<std::string, 6>& boxes, const std::array<int, 3>& combos) {
+    for (int number = 1; number <= 3; ++number)
+        frmPaper.combo(number).ListIndex = combos[static_cast<std::size_t>(number - 1)];
+    for (int number = 1; number <= 6; ++number) setBoxText(number, boxes[static_cast<std::size_t>(number - 1)]);
+}
+
+}  // namespace ordwise
