@@ -60,7 +60,5 @@ void commitRebuilt(const TermPass& pass, const std::string& newText, bool silent
 [[nodiscard]] std::string termAsWritten(const ExprTerm& term);
 // The term of a bin, without a sign. e.g. -5/6 and "x" -> "5x/6"
 [[nodiscard]] std::string sizeText(const LikeBin& bin);
-// Exponents 1 taken out. e.g. "x^1y^2" -> "xy^2"; "x^12" stays
-[[nodiscard]] std::string withoutPowerOne(const std::string& text);
 
 }  // namespace ordwise

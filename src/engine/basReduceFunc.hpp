@@ -38,6 +38,10 @@ namespace ordwise {
 // One pass over the terms of a group: at most one rewrite, whose note waits in CurrentNote for the
 // caller's commit. stopFlag leaves the negative exponents alone. e.g. 3x+2x -> 5x
 void ReduceGroup(int group, bool silent, bool stopFlag);
+// The note of a line that was put in decreasing order, its blank at the end included.
+inline const std::string leadingTermHint =
+    "Polynomials are written in decreasing order of terms. The largest term or the term with the highest exponent in "
+    "the polynomial is usually written first. The first term in a polynomial is called the leading term. ";
 // The whole text with the group's terms in decreasing order of exponent; changes nothing.
 // e.g. 3+x^2 -> "+x^2+3"
 [[nodiscard]] std::string OrderedPolynomialText(int group);

@@ -13,10 +13,6 @@
 namespace ordwise {
 namespace {
 
-const std::string leadingTermHint =
-    "Polynomials are written in decreasing order of terms. The largest term or the term with the highest exponent in "
-    "the polynomial is usually written first. The first term in a polynomial is called the leading term. ";
-
 // A bin that cancelled writes nothing.
 std::string pieceText(const TermPass& pass, const TermPiece& piece) {
     if (piece.bin == noBin) return piece.text;
@@ -36,7 +32,7 @@ std::string termsNotReached(const TermPass& pass) {
 
 // The degree by which a term is placed: the whole part of its exponent, 0 for what goes behind.
 int degreeOf(const ExprTerm& term) {
-    const std::string letters = withoutPowerOne(term.numText);
+    const std::string letters = withoutExponentOne(term.numText);
     if (letters.empty() || letters[0] == '^') return 0;
     return std::max(0, static_cast<int>(term.varExp[2]));
 }
@@ -44,7 +40,7 @@ int degreeOf(const ExprTerm& term) {
 // A text as far as order goes: without marks, exponents 1 and coefficients 1.
 // e.g. "+1x[-2]" -> "+x-2"
 std::string bare(const std::string& text) {
-    const std::string plain = withoutPowerOne(replaced(replaced(text, "[", ""), "]", ""));
+    const std::string plain = withoutExponentOne(replaced(replaced(text, "[", ""), "]", ""));
     std::string out;
     for (std::size_t i = 0; i < plain.size(); ++i) {
         const bool alone = i == 0 || IsSign(plain.substr(i - 1, 1)) || plain[i - 1] == '=';

@@ -40,10 +40,10 @@ double asPrinted(float value) {
 // --- terms and their texts
 
 std::string lettersOf(const ExprTerm& term) {
-    return withoutPowerOne(term.numText);
+    return withoutExponentOne(term.numText);
 }
 std::string lettersBelow(const ExprTerm& term) {
-    return withoutPowerOne(term.denText);
+    return withoutExponentOne(term.denText);
 }
 
 // e.g. the "^3" of 2^3
@@ -449,19 +449,6 @@ void LikeBin::add(double numerator, double denominator) {
     const auto factor = static_cast<double>(std::gcd(std::llabs(std::llround(num)), std::llround(den)));
     num /= factor;
     den /= factor;
-}
-
-std::string withoutPowerOne(const std::string& text) {
-    std::string out;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool one =
-            text.compare(i, 2, "^1") == 0 && (i + 2 >= text.size() || (!isDigit(text[i + 2]) && text[i + 2] != '.'));
-        if (one)
-            ++i;
-        else
-            out += text[i];
-    }
-    return out;
 }
 
 std::string termAsWritten(const ExprTerm& term) {

@@ -212,10 +212,6 @@ bool solveForOther(const std::string& variable, const std::string& other) {
     return SolveEquation(other);
 }
 
-const std::string orderNote =
-    "Polynomials are written in decreasing order of terms. The largest term or the term with the highest exponent in "
-    "the polynomial is usually written first. The first term in a polynomial is called the leading term. ";
-
 // The line holds what the last step's line holds, in another order: a rearrangement that no step
 // has shown yet. e.g. y=3+2x and y=2x+3
 bool onlyReordered() {
@@ -228,7 +224,7 @@ bool onlyReordered() {
 
 // A number times the variable stands on the left, a value on the right.
 bool divideOut(const std::string& variable) {
-    ws.CurrentNote = onlyReordered() ? orderNote : "Remove cancelled terms from both sides.";
+    ws.CurrentNote = onlyReordered() ? leadingTermHint : "Remove cancelled terms from both sides.";
     CommitStep();
     DivideBothSides(variable);
     for (const int side : {0, 1}) {

@@ -177,14 +177,14 @@ std::string movedNote(const ExprTerm& term) {
 // A term of the pre-pass. Only the first one with a negative exponent is moved below the bar; those
 // behind it wait for the next pass. Numbers and powers of numbers stay.
 std::string prePassTerm(const ExprTerm& term, bool& moved) {
-    const std::string letters = withoutPowerOne(term.numText);
-    const bool number = letters.empty() && withoutPowerOne(term.denText).empty();
+    const std::string letters = withoutExponentOne(term.numText);
+    const bool number = letters.empty() && withoutExponentOne(term.denText).empty();
     if (number || letters.substr(0, 1) == "^" || moved || term.numerator == 0.0F) return termAsWritten(term);
     if (contains(letters, "^-")) {
         moved = true;
         ws.CurrentNote = movedNote(term);
     }
-    return term.lead + NegativeExponentText(letters, std::fabs(term.numerator), withoutPowerOne(term.denText),
+    return term.lead + NegativeExponentText(letters, std::fabs(term.numerator), withoutExponentOne(term.denText),
                                             std::fabs(term.denominator));
 }
 
