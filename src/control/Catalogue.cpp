@@ -1,5 +1,6 @@
 #include "Catalogue.hpp"
 
+#include "ChooserWindow.hpp"
 #include "NumberText.hpp"
 #include "Platform.hpp"
 #include "RandomDraws.hpp"
@@ -59,6 +60,7 @@ void TreeViewSelect(std::string_view name, bool lookupOnly) {
         if (!lookupOnly) {
             ws.HintText = hintOf(row->code);
             ws.TopicName = name;
+            frmSelect.Cancelled = false;
             platform.windows->unload("frmSelect");
         }
     }

@@ -7,6 +7,7 @@
 #include "GuidedInput.hpp"
 #include "KeyText.hpp"
 #include "PictureButton.hpp"
+#include "SheetPainter.hpp"
 #include "SheetView.hpp"
 #include "Stage.hpp"
 #include "StepDisplay.hpp"
@@ -139,7 +140,7 @@ void DeskView::growToSheets() {
         const Sheet& sheet = frmPaper.Paper[number];
         if (!frmPaper.Loaded || !sheet.Visible) continue;
         width = std::max(width, sheet.Left + sheet.Width + SheetView::shadow);
-        height = std::max(height, sheet.Top + sheet.Height + SheetView::shadow);
+        height = std::max(height, sheet.Top + paperHeight() + SheetView::shadow);
     }
     const QSize needed(static_cast<int>(std::floor(width * scale_)), static_cast<int>(std::floor(height * scale_)));
     if (size() != needed.expandedTo(viewport_)) {

@@ -17,7 +17,8 @@
 namespace ordwise {
 namespace {
 
-// Around the text, in units of the desk; the head holds the caption.
+// Around the text, in units of the desk. The head holds the caption; the window's height has room
+// for it.
 constexpr double side = 16;
 constexpr double head = 34;
 
@@ -37,7 +38,7 @@ void ExplanationPopup::showChanges(double scale) {
         if (hadFocus) parentWidget()->setFocus(Qt::OtherFocusReason);
         return;
     }
-    const QSize size = (QSizeF(frmExplain.Width + 2 * side, frmExplain.Height + head) * scale).toSize();
+    const QSize size = (QSizeF(frmExplain.Width + 2 * side, frmExplain.Height) * scale).toSize();
     QPoint place = (QPointF(frmExplain.Left, frmExplain.Top) * scale).toPoint();
     // Kept within the part of the desk that can be seen.
     const QRect seen = parentWidget()->visibleRegion().boundingRect();

@@ -255,10 +255,7 @@ void FrameWindow::showChanges() {
         action->setIcon(artIcon(button.Image));
     }
     const bool refused = frmPaper.Loaded && frmPaper.Light.Image == "light3";
-    QString sentence = qstringOf(ordwise::statusLine());
-    if (!frmPaper.Loaded && sentence.isEmpty())
-        sentence = QStringLiteral("Press Ctrl+N or choose New Problem to begin.");
-    status_->showSentence(sentence, refused);
+    status_->showSentence(qstringOf(ordwise::statusLine()), refused);
     desk_->showChanges();
     if (frmPaper.Loaded && sheetInView_ != ws.CurrentSheet) {
         sheetInView_ = ws.CurrentSheet;

@@ -29,7 +29,10 @@ int QtClock::minuteAndSecond() const {
 }
 
 std::string QtClock::today() const {
-    return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+    const QLocale locale;
+    QString format = locale.dateFormat(QLocale::ShortFormat);
+    if (!format.contains(QStringLiteral("yyyy"))) format.replace(QStringLiteral("yy"), QStringLiteral("yyyy"));
+    return locale.toString(QDate::currentDate(), format).toStdString();
 }
 
 }  // namespace ordwise

@@ -24,6 +24,7 @@ int sheetCount() {
 void paintWhole(QPainter& painter, int number) {
     painter.save();
     paintSheet(painter, number);
+    if (number == 0) paintList(painter, frmPaper.Combo3);
     if (number == 0 && frmPaper.Picture3.Visible) {
         painter.translate(frmPaper.Picture3.Left, frmPaper.Picture3.Top);
         paintFigure(painter);
@@ -35,13 +36,13 @@ void paintWhole(QPainter& painter, int number) {
 QSizeF sizeOfAll() {
     const Sheet& first = frmPaper.Paper[0];
     const int count = sheetCount();
-    return {first.Width, first.Height * count + gap * (count - 1)};
+    return {first.Width, paperHeight() * count + gap * (count - 1)};
 }
 
 void paintAll(QPainter& painter) {
     for (int number = 0; number < sheetCount(); ++number) {
         paintWhole(painter, number);
-        painter.translate(0, frmPaper.Paper[number].Height + gap);
+        painter.translate(0, paperHeight() + gap);
     }
 }
 
@@ -70,7 +71,7 @@ bool writeSvg(const QString& file) {
 bool writePdf(const QString& file) {
     QPdfWriter pdf(file);
     const Sheet& first = frmPaper.Paper[0];
-    pdf.setPageSize(QPageSize(QSizeF(first.Width, first.Height), QPageSize::Point));
+    pdf.setPageSize(QPageSize(QSizeF(first.Width, paperHeight()), QPageSize::Point));
     pdf.setPageMargins(QMarginsF());
     pdf.setResolution(288);
     pdf.setTitle(QString::fromStdString(first.Label6.Text));

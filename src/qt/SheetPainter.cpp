@@ -2,6 +2,7 @@
 
 #include "Art.hpp"
 #include "DisplayListPainter.hpp"
+#include "WorksheetLayout.hpp"
 
 #include <QPainter>
 
@@ -13,30 +14,44 @@ const QColor paperColour(0xfe, 0xfd, 0xf8);
 const QColor paperEdge(0xd8, 0xd2, 0xc2);
 const QColor marginRed(0xe3, 0xa0, 0x9a);
 const QColor ruleBlue(0xb9, 0xcd, 0xe2);
+const QColor tagColour(255, 255, 255, 215);
 const QColor boxFrame(0x7a, 0x8a, 0x99);
 
 constexpr double marginX = 50;
 constexpr double headY = 54;
-constexpr double captionPoints = 14;
-constexpr double captionGap = 3;  // between a caption and its box
+constexpr double titlePoints = 14;
+// The paper goes on below the lines, so that a denominator on the last one is whole.
+constexpr double footRoom = 24;
 constexpr double boxPoints = 15;
 
 void paintPaper(QPainter& painter, const Sheet& sheet) {
     painter.setPen(QPen(paperEdge, 1));
     painter.setBrush(paperColour);
-    painter.drawRect(QRectF(0.5, 0.5, sheet.Width - 1, sheet.Height - 1));
+    painter.drawRect(QRectF(0.5, 0.5, sheet.Width - 1, paperHeight() - 1));
     painter.setPen(QPen(ruleBlue, 1.2));
     painter.drawLine(QPointF(0, headY), QPointF(sheet.Width, headY));
     painter.setPen(QPen(marginRed, 1.2));
-    painter.drawLine(QPointF(marginX, 0), QPointF(marginX, sheet.Height));
+    painter.drawLine(QPointF(marginX, 0), QPointF(marginX, paperHeight()));
+}
+
+double captionLeft(const Control& label, double points) {
+    return label.AlignRight ? label.Left + label.Width - textWidth(Face::Halvern, label.Text, points) : label.Left;
 }
 
 // The text stands in the middle of the control's height.
 void paintCaption(QPainter& painter, const Control& label, double points, Colour colour) {
-    const double width = textWidth(Face::Halvern, label.Text, points);
-    const double x = label.AlignRight ? label.Left + label.Width - width - captionGap : label.Left;
+    const double x = captionLeft(label, points);
     const double y = label.Top + (label.Height - lineHeightOf(Face::Halvern, points)) / 2;
     paintText(painter, label.Text, x, y, Face::Halvern, points, colour);
+}
+
+// A light ground under a caption, so that no line of the figure runs through its letters.
+void paintTag(QPainter& painter, const Control& label) {
+    const double width = textWidth(Face::Halvern, label.Text, labelPoints);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(tagColour);
+    painter.drawRoundedRect(QRectF(captionLeft(label, labelPoints) - 4, label.Top + 2, width + 6, label.Height - 4), 4,
+                            4);
 }
 
 void paintBox(QPainter& painter, const Control& box, std::string_view text) {
@@ -47,11 +62,6 @@ void paintBox(QPainter& painter, const Control& box, std::string_view text) {
     paintText(painter, text, box.Left + 5, y, Face::Halvern, boxPoints);
 }
 
-void paintCombo(QPainter& painter, const ComboControl& combo) {
-    if (!combo.Visible || combo.ListIndex < 0 || combo.ListIndex >= static_cast<int>(combo.List.size())) return;
-    paintBox(painter, combo, combo.List[static_cast<std::size_t>(combo.ListIndex)]);
-}
-
 }  // namespace
 
 void paintSheet(QPainter& painter, int number) {
@@ -59,10 +69,14 @@ void paintSheet(QPainter& painter, int number) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     paintPaper(painter, sheet);
-    paintCaption(painter, sheet.Label6, captionPoints, inkBlue);
-    if (number == 0) paintCaption(painter, frmPaper.Label7, captionPoints, inkBlue);
+    paintCaption(painter, sheet.Label6, titlePoints, inkBlue);
+    if (number == 0) paintCaption(painter, frmPaper.Label7, titlePoints, inkBlue);
     replay(sheet.drawn(), painter);
     painter.restore();
+}
+
+double paperHeight() {
+    return frmPaper.Paper[0].Height + footRoom;
 }
 
 void paintFigure(QPainter& painter) {
@@ -71,8 +85,15 @@ void paintFigure(QPainter& painter) {
     paintArt(painter, picture.Image, QRectF(0, 0, picture.Width, picture.Height));
     for (const Control* label :
          {&frmPaper.Label1, &frmPaper.Label2, &frmPaper.Label3, &frmPaper.Label4, &frmPaper.Label5, &frmPaper.Label8}) {
-        if (label->Visible) paintCaption(painter, *label, captionPoints, black);
+        if (!label->Visible) continue;
+        if (!picture.Image.empty()) paintTag(painter, *label);
+        paintCaption(painter, *label, labelPoints, black);
     }
+}
+
+void paintList(QPainter& painter, const ComboControl& combo) {
+    if (!combo.Visible || combo.ListIndex < 0 || combo.ListIndex >= static_cast<int>(combo.List.size())) return;
+    paintBox(painter, combo, combo.List[static_cast<std::size_t>(combo.ListIndex)]);
 }
 
 void paintBoxes(QPainter& painter) {
@@ -81,8 +102,8 @@ void paintBoxes(QPainter& painter) {
         const Control& box = frmPaper.box(number);
         if (box.Visible) paintBox(painter, box, box.Text);
     }
-    paintCombo(painter, frmPaper.Combo1);
-    paintCombo(painter, frmPaper.Combo2);
+    paintList(painter, frmPaper.Combo1);
+    paintList(painter, frmPaper.Combo2);
 }
 
 }  // namespace ordwise

@@ -11,9 +11,13 @@ namespace ordwise {
 // A sheet by its number, its top left at the painter's origin, in points of the sheet.
 void paintSheet(QPainter& painter, int number);
 
+// How high the painted paper is: the surface of a sheet and the foot below its last line.
+[[nodiscard]] double paperHeight();
+
 // Picture3 at the painter's origin: the figure and the captions.
 void paintFigure(QPainter& painter);
-// What the boxes and lists hold, for pictures on which there are no real ones.
+// What a list shows, and what all boxes and lists of the figure do, for pictures without real ones.
+void paintList(QPainter& painter, const ComboControl& combo);
 void paintBoxes(QPainter& painter);
 
 }  // namespace ordwise

@@ -137,7 +137,7 @@ void SheetView::showChanges(double scale, bool steady) {
     const bool scaled = scale != scale_;
     scale_ = scale;
     setGeometry(QRectF((sheet.Left - shadow) * scale, (sheet.Top - shadow) * scale, (sheet.Width + 2 * shadow) * scale,
-                       (sheet.Height + 2 * shadow) * scale)
+                       (paperHeight() + 2 * shadow) * scale)
                     .toRect());
     const QString title = qstringOf(sheet.Label6.Text);
     if (scaled || shown_ != sheet.drawn() || title != shownTitle_) {
@@ -181,7 +181,7 @@ void SheetView::paintEvent(QPaintEvent*) {
         const double out = shadow - i;
         painter.setBrush(QColor(30, 15, 0, 10));
         painter.drawRoundedRect(
-            QRectF(shadow - out + 3, shadow - out + 4, sheet.Width + 2 * out - 4, sheet.Height + 2 * out - 4), out,
+            QRectF(shadow - out + 3, shadow - out + 4, sheet.Width + 2 * out - 4, paperHeight() + 2 * out - 4), out,
             out);
     }
     painter.translate(shadow, shadow);

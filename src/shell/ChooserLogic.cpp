@@ -29,11 +29,6 @@ void cancelChooser() {
     platform.windows->unload("frmSelect");
 }
 
-void take(std::string_view name) {
-    if (findTopic(name) != nullptr) frmSelect.Cancelled = false;
-    TreeViewSelect(name);
-}
-
 }  // namespace
 
 void Select_Load() {
@@ -78,7 +73,7 @@ void SelectText_Change(std::string_view typed) {
 
 void SelectText_KeyDown(ChooserKey key) {
     if (key == ChooserKey::Enter) {
-        take(selectedTopic());
+        TreeViewSelect(selectedTopic());
     } else if (key == ChooserKey::Escape) {
         cancelChooser();
     }
@@ -89,7 +84,7 @@ void IndexList_Click(int index) {
 }
 
 void IndexList_DblClick() {
-    take(selectedTopic());
+    TreeViewSelect(selectedTopic());
 }
 
 void IndexList_KeyDown(ChooserKey key) {
@@ -101,7 +96,7 @@ void IndexList_KeyUp() {
 }
 
 void TreeView_NodeClick(std::string_view text) {
-    take(text);
+    TreeViewSelect(text);
 }
 
 void TreeView_KeyDown(ChooserKey key, std::string_view current) {
@@ -109,7 +104,7 @@ void TreeView_KeyDown(ChooserKey key, std::string_view current) {
         case ChooserKey::Up:
         case ChooserKey::Down:
         case ChooserKey::Right: break;
-        case ChooserKey::Enter: take(current); break;
+        case ChooserKey::Enter: TreeViewSelect(current); break;
         case ChooserKey::Escape: cancelChooser(); break;
         case ChooserKey::Other: ws.ProblemType = 0; break;
     }

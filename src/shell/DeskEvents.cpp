@@ -24,6 +24,22 @@ bool lightIsRed() {
     return frmPaper.Light.Image == "light3";
 }
 
+// A hint as it is typed: nobody types a closing mark or a "#".
+// e.g. "Example: #1/2# + 3~4~" -> "Example: 1/2 + 3~4"
+std::string asTyped(std::string_view markup) {
+    std::string keys;
+    bool closes = false;
+    for (const char c : markup) {
+        if (c == '#') continue;
+        if (c == '^' || c == '~') {
+            closes = !closes;
+            if (!closes) continue;
+        }
+        keys += c;
+    }
+    return keys;
+}
+
 // The last step that has a line; a step may have a note only.
 std::string shownLine() {
     const int last = ws.ShownStep > 0 ? std::min<int>(ws.ShownStep, ws.StepCount - 1) : ws.StepCount - 1;
@@ -87,10 +103,11 @@ void Box_KeyPress(int number, std::string_view key) {
 }
 
 std::string statusLine() {
-    if (!frmPaper.Loaded) return frmMain.StatusText;
+    if (!frmPaper.Loaded) return "Press Ctrl+N or choose New Problem to begin.";
     if (lightIsRed()) return ws.ExplainOverrideText;
-    if (!frmMain.StatusText.empty()) return frmMain.StatusText;
-    return ws.InputOpen ? ws.HintText : "";
+    if (ws.InputOpen) return asTyped(ws.HintText);
+    if (frmPaper.Paper[ws.CurrentSheet].blinker.Visible) return "Press Enter or click Next Step to go on.";
+    return "Erase the problem to enter another one, or choose New Problem.";
 }
 
 std::string spokenLineInView() {

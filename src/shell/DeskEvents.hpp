@@ -25,8 +25,8 @@ void Wizard_MouseUp(double width, double height);
 // A key in a box, with the light as on the paper: green, or red when it is refused.
 void Box_KeyPress(int number, std::string_view key);
 
-// What the status bar says: the reason of a refusal as long as the light is red, otherwise the text
-// of the frame, and what to enter while nothing has been solved.
+// What the status bar says: the reason of a refusal as long as the light is red, otherwise what can
+// be done next.
 [[nodiscard]] std::string statusLine();
 
 // The mathematics in view in words: the step shown last, or what has been typed so far.

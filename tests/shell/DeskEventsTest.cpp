@@ -1,0 +1,141 @@
+#include "DeskEvents.hpp"
+
+#include "Catalogue.hpp"
+#include "FrameCommands.hpp"
+#include "PlainPlatform.hpp"
+#include "WindowRoutines.hpp"
+#include "Windows.hpp"
+#include "Workspace.hpp"
+
+#include <gtest/gtest.h>
+
+namespace ordwise {
+namespace {
+
+class DeskEvents : public testing::Test {
+protected:
+    DeskEvents() {
+        ws = Workspace{};
+        ResetWindows();
+    }
+
+    static void open(std::string_view topic) {
+        TreeViewSelect(topic);
+        loadWindow("frmPaper");
+    }
+
+    static void typeKeys(std::string_view keys) {
+        for (const char key : keys) insertCharacter(std::string_view(&key, 1));
+    }
+
+    [[nodiscard]] bool explanationAsked() const {
+        return !outside.windows.requests.empty() && outside.windows.requests.back() == "+frmExplain";
+    }
+
+    PlainPlatform outside;
+};
+
+TEST_F(DeskEvents, only_a_red_light_tells_a_reason) {
+    open("Arithmetic");
+    outside.windows.requests.clear();
+    Light_MouseUp();
+    EXPECT_FALSE(explanationAsked());
+    typeKeys("4+");
+    Light_MouseUp();
+    EXPECT_FALSE(explanationAsked());
+    typeKeys("+");
+    Light_MouseUp();
+    EXPECT_TRUE(explanationAsked());
+    EXPECT_TRUE(ws.ExplainOverride);
+}
+
+TEST_F(DeskEvents, the_assistant_speaks_only_if_there_is_something_to_say) {
+    open("Arithmetic");
+    outside.windows.requests.clear();
+    ws.StepNotes[ws.ShownStep] = "";
+    Wizard_Click();
+    Click_MouseUp();
+    mnuExp_Click();
+    EXPECT_TRUE(outside.windows.requests.empty());
+    ws.StepNotes[ws.ShownStep] = "Add.";
+    Wizard_Click();
+    EXPECT_TRUE(explanationAsked());
+}
+
+TEST_F(DeskEvents, the_assistant_stays_on_the_desk_with_its_signal_beside_it) {
+    open("Arithmetic");
+    const double apart = frmPaper.Click.Left - frmPaper.Wizard.Left;
+    Wizard_MouseMove(5000, -5000);
+    Wizard_MouseUp(1024, 740);
+    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Left, 1024 - frmPaper.Wizard.Width - 8);
+    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Top, 0);
+    EXPECT_DOUBLE_EQ(frmPaper.Click.Left - frmPaper.Wizard.Left, apart);
+    Wizard_MouseMove(-5000, 5000);
+    Wizard_MouseUp(1024, 740);
+    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Left, 0);
+    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Top, 740 - frmPaper.Wizard.Height - 27);
+}
+
+TEST_F(DeskEvents, the_pencil_goes_with_the_first_sheet) {
+    open("Arithmetic");
+    const double pencil = frmPaper.Pencil.Left;
+    Paper_MouseMove(1, 30, 0);
+    EXPECT_DOUBLE_EQ(frmPaper.Pencil.Left, pencil);
+    Paper_MouseMove(0, 30, 0);
+    EXPECT_DOUBLE_EQ(frmPaper.Pencil.Left, pencil + 30);
+    Paper_MouseDown(0);
+    EXPECT_GT(frmPaper.Paper[0].Order, frmPaper.Paper[1].Order);
+}
+
+TEST_F(DeskEvents, a_box_tells_by_the_light_what_it_refuses) {
+    open("Area of a Circle");
+    Box_KeyPress(2, "4");
+    EXPECT_EQ(frmPaper.Light.Image, "light2");
+    Box_KeyPress(2, "x");
+    EXPECT_EQ(frmPaper.Light.Image, "light3");
+    EXPECT_EQ(frmPaper.Text2.Text, "4");
+    EXPECT_EQ(statusLine(), ws.ExplainOverrideText);
+    EXPECT_NE(statusLine(), "");
+}
+
+TEST_F(DeskEvents, the_status_line_says_what_can_be_done_next) {
+    EXPECT_NE(statusLine().find("New Problem"), std::string::npos);
+    open("Exponential Notation");
+    EXPECT_EQ(statusLine(),
+              "Enter numbers seperated by multiplication symbols (*).  Exponents can also be entered.  "
+              "Example: 35*9*4^3");
+    open("Fraction Arithmetic");
+    EXPECT_TRUE(statusLine().ends_with("Example: 1/2 + 3/5")) << statusLine();
+    typeKeys("1/2+1/3");
+    mnuSolve_Click();
+    EXPECT_NE(statusLine().find("Next Step"), std::string::npos);
+}
+
+TEST_F(DeskEvents, what_is_typed_and_what_is_shown_can_be_heard) {
+    open("Solving Equations");
+    typeKeys("x+3=12");
+    EXPECT_EQ(spokenLineInView(), "x plus 3 equals 12");
+    mnuShowStep_Click();
+    mnuSolve_Click();
+    EXPECT_EQ(spokenLineInView(), "x equals 9");
+}
+
+TEST_F(DeskEvents, options_change_the_desk_at_once) {
+    open("Arithmetic");
+    mnuShowLight_Click();
+    EXPECT_FALSE(frmPaper.Light.Visible);
+    frmPaper.clickMe.Enabled = true;
+    mnuHideWiz_Click();
+    EXPECT_FALSE(frmPaper.Wizard.Visible);
+    EXPECT_FALSE(frmPaper.clickMe.Enabled);
+    mnuConvertDF_Click();
+    EXPECT_EQ(frmMain.Toolbar1[MainWindow::buttonFracdec].Image, "fracdec2");
+    EXPECT_FALSE(ws.UseFractions);
+    mnuShowStep_Click();
+    EXPECT_EQ(ws.ShownStep, 0);
+    mnuShowStep_Click();
+    EXPECT_EQ(ws.ShownStep, 2);
+}
+
+}  // namespace
+}  // namespace ordwise
