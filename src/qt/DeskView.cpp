@@ -104,23 +104,38 @@ void DeskView::setSteady(bool steady) {
 
 void DeskView::setZoom(double zoom) {
     zoom_ = std::clamp(zoom, 0.5, 3.0);
-    fitScale();
     showChanges();
 }
 
 void DeskView::setViewport(QSize size) {
     if (viewport_ == size) return;
     viewport_ = size;
-    fitScale();
     showChanges();
 }
 
+// Room for every sheet at the place where it was laid down. Where a sheet was dragged to does not
+// count: the desk would shrink under the hand.
+QSizeF DeskView::deskSize() {
+    constexpr double sheetsLeft = 60;
+    constexpr double sheetsTop = 40;
+    constexpr double step = 25;
+    int last = 0;
+    for (int number = 0; number <= PaperWindow::lastSheet; ++number) {
+        if (frmPaper.Loaded && frmPaper.Paper[number].Visible) last = number;
+    }
+    const Sheet& first = frmPaper.Paper[0];
+    return {std::max(deskWidth, sheetsLeft + last * step + first.Width + SheetView::shadow),
+            std::max(deskHeight, sheetsTop + last * step + paperHeight() + SheetView::shadow)};
+}
+
 void DeskView::fitScale() {
-    const double fit = std::min(viewport_.width() / deskWidth, viewport_.height() / deskHeight);
+    const QSizeF desk = deskSize();
+    const double fit = std::min(viewport_.width() / desk.width(), viewport_.height() / desk.height());
     scale_ = std::clamp(fit * zoom_, smallestScale, largestScale);
 }
 
 void DeskView::showChanges() {
+    fitScale();
     growToSheets();
     for (SheetView* sheet : sheets_) sheet->showChanges(scale_, steady_);
     if (!frmPaper.Loaded) {
@@ -134,8 +149,8 @@ void DeskView::showChanges() {
 }
 
 void DeskView::growToSheets() {
-    double width = deskWidth;
-    double height = deskHeight;
+    double width = deskSize().width();
+    double height = deskSize().height();
     for (int number = 0; number <= PaperWindow::lastSheet; ++number) {
         const Sheet& sheet = frmPaper.Paper[number];
         if (!frmPaper.Loaded || !sheet.Visible) continue;
@@ -166,12 +181,14 @@ void DeskView::showPictures() {
 }
 
 // Sheets by their order, then what lies on them: the pencil belongs to the first sheet, the light
-// and the assistant stand before all.
+// and the assistant stand before all. Restacking paints everything anew, so it waits for a change.
 void DeskView::stackWindows() {
     std::array<int, PaperWindow::lastSheet + 1> order{};
     for (int i = 0; i <= PaperWindow::lastSheet; ++i) order[static_cast<std::size_t>(i)] = i;
     std::stable_sort(order.begin(), order.end(),
                      [](int a, int b) { return frmPaper.Paper[a].Order < frmPaper.Paper[b].Order; });
+    if (order == stacked_) return;
+    stacked_ = order;
     deskPencil_->raise();
     for (const int number : order) {
         sheet(number).raise();

@@ -18,7 +18,7 @@ class Stage;
 
 class DeskView : public QWidget {
 public:
-    // The desk as it was laid out; more sheets than fit make it larger.
+    // The desk as it is laid out, in points of the sheets; a pile of sheets makes it larger.
     static constexpr double deskWidth = 1024;
     static constexpr double deskHeight = 740;
 
@@ -52,6 +52,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    [[nodiscard]] static QSizeF deskSize();
     void fitScale();
     void growToSheets();
     void showPictures();
@@ -71,6 +72,7 @@ private:
     QWidget* pencil_;
     QWidget* deskPencil_;
     ExplanationPopup* explanation_;
+    std::array<int, PaperWindow::lastSheet + 1> stacked_{};  // sheets from the lowest to the foremost
     QTimer blink_;
     QTimer signal_;
     QString announced_;

@@ -94,7 +94,28 @@ private:
     QPainter& painter_;
 };
 
+struct Extent {
+    QRectF operator()(const Glyphs& run) const {
+        const double em = emOf(run.face, run.size);
+        const double width = textWidth(run.face, run.text, run.size);
+        return {run.x - em, run.y - em, width + 2 * em, lineHeightOf(run.face, run.size) + 2 * em};
+    }
+    QRectF operator()(const Stroke& stroke) const {
+        const QRectF line(QPointF(stroke.x1, stroke.y1), QPointF(stroke.x2, stroke.y2));
+        return line.normalized().adjusted(-stroke.width, -stroke.width, stroke.width, stroke.width);
+    }
+    QRectF operator()(const Circle& circle) const {
+        const double reach = circle.radius + circle.width;
+        return {circle.x - reach, circle.y - reach, 2 * reach, 2 * reach};
+    }
+    QRectF operator()(const Picture& picture) const { return {picture.x, picture.y, picture.width, picture.height}; }
+};
+
 }  // namespace
+
+QRectF extentOf(const DrawOperation& operation) {
+    return std::visit(Extent{}, operation);
+}
 
 void replay(const DisplayList& list, QPainter& painter) {
     painter.save();

@@ -3,12 +3,17 @@
 
 #include "DisplayList.hpp"
 
+#include <QRectF>
+
 class QPainter;
 
 namespace ordwise {
 
 // Draws the list with its origin at the painter's; one unit of the surface is one of the painter.
 void replay(const DisplayList& list, QPainter& painter);
+
+// The room that an operation takes, with space for strokes that reach over their glyph's line.
+[[nodiscard]] QRectF extentOf(const DrawOperation& operation);
 
 // A line of plain text in one of the program's faces, its top left at (x, y); blanks and signs
 // included. Returns where it ends.

@@ -11,12 +11,12 @@
 namespace ordwise {
 
 struct ExportRequest {
-    QString file;
-    QString topic;
-    QString problem;
-    std::vector<std::pair<int, QString>> boxes;
-    std::vector<std::pair<int, int>> combos;
-    QStringList answers;  // to the questions that a solve asks, in their order
+    QString file = {};
+    QString topic = {};
+    QString problem = {};
+    std::vector<std::pair<int, QString>> boxes = {};
+    std::vector<std::pair<int, int>> combos = {};
+    QStringList answers = {};  // to the questions that a solve asks, in their order
 };
 
 // Types the problem key by key, solves it and writes the sheets. False with a sentence in `reason`:

@@ -24,7 +24,7 @@ constexpr double titlePoints = 14;
 constexpr double footRoom = 24;
 constexpr double boxPoints = 15;
 
-void paintPaper(QPainter& painter, const Sheet& sheet) {
+void paintEmptyPaper(QPainter& painter, const Sheet& sheet) {
     painter.setPen(QPen(paperEdge, 1));
     painter.setBrush(paperColour);
     painter.drawRect(QRectF(0.5, 0.5, sheet.Width - 1, paperHeight() - 1));
@@ -64,15 +64,19 @@ void paintBox(QPainter& painter, const Control& box, std::string_view text) {
 
 }  // namespace
 
-void paintSheet(QPainter& painter, int number) {
+void paintPaper(QPainter& painter, int number) {
     const Sheet& sheet = frmPaper.Paper[number];
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    paintPaper(painter, sheet);
+    paintEmptyPaper(painter, sheet);
     paintCaption(painter, sheet.Label6, titlePoints, inkBlue);
     if (number == 0) paintCaption(painter, frmPaper.Label7, titlePoints, inkBlue);
-    replay(sheet.drawn(), painter);
     painter.restore();
+}
+
+void paintSheet(QPainter& painter, int number) {
+    paintPaper(painter, number);
+    replay(frmPaper.Paper[number].drawn(), painter);
 }
 
 double paperHeight() {

@@ -8,7 +8,9 @@ class QPainter;
 
 namespace ordwise {
 
-// A sheet by its number, its top left at the painter's origin, in points of the sheet.
+// A sheet by its number, its top left at the painter's origin, in points of the sheet: the paper with
+// its title, and what was drawn on it.
+void paintPaper(QPainter& painter, int number);
 void paintSheet(QPainter& painter, int number);
 
 // How high the painted paper is: the surface of a sheet and the foot below its last line.

@@ -3,6 +3,7 @@
 #include "Art.hpp"
 #include "BoxEdit.hpp"
 #include "DeskEvents.hpp"
+#include "DisplayListPainter.hpp"
 #include "GuidedInput.hpp"
 #include "PictureButton.hpp"
 #include "SheetPainter.hpp"
@@ -12,6 +13,8 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace ordwise {
 namespace {
@@ -47,6 +50,8 @@ QString boxName(int number) {
 }  // namespace
 
 void showCombo(QComboBox& widget, const ComboControl& combo, double scale) {
+    widget.setVisible(combo.Visible);
+    if (!combo.Visible) return;
     widget.setGeometry(placeOf(combo, scale));
     widget.setFont(unitFont(listFontUnits, scale));
     QStringList list;
@@ -58,7 +63,6 @@ void showCombo(QComboBox& widget, const ComboControl& combo, double scale) {
         widget.addItems(list);
     }
     widget.setCurrentIndex(combo.ListIndex);
-    widget.setVisible(combo.Visible);
 }
 
 FigureView::FigureView(QWidget* parent, Stage& stage) : QWidget(parent) {
@@ -86,6 +90,8 @@ FigureView::FigureView(QWidget* parent, Stage& stage) : QWidget(parent) {
 }
 
 void FigureView::showChanges(double scale) {
+    setVisible(frmPaper.Picture3.Visible);
+    if (!frmPaper.Picture3.Visible) return;
     scale_ = scale;
     setGeometry(placeOf(frmPaper.Picture3, scale)
                     .translated(QPointF(SheetView::shadow * scale, SheetView::shadow * scale).toPoint()));
@@ -100,7 +106,6 @@ void FigureView::showChanges(double scale) {
     }
     showCombo(combo(1), frmPaper.Combo1, scale);
     showCombo(combo(2), frmPaper.Combo2, scale);
-    setVisible(frmPaper.Picture3.Visible);
     update();
 }
 
@@ -134,18 +139,18 @@ void SheetView::showChanges(double scale, bool steady) {
     const Sheet& sheet = frmPaper.Paper[number_];
     setVisible(sheet.Visible);
     if (!sheet.Visible) return;
-    const bool scaled = scale != scale_;
-    scale_ = scale;
+    const QString title = qstringOf(sheet.Label6.Text + frmPaper.Label7.Text);
+    if (scale != scale_ || title != shownTitle_) {
+        scale_ = scale;
+        shownTitle_ = title;
+        background_ = QPixmap();
+        update();
+    }
     setGeometry(QRectF((sheet.Left - shadow) * scale, (sheet.Top - shadow) * scale, (sheet.Width + 2 * shadow) * scale,
                        (paperHeight() + 2 * shadow) * scale)
                     .toRect());
-    const QString title = qstringOf(sheet.Label6.Text);
-    if (scaled || shown_ != sheet.drawn() || title != shownTitle_) {
-        shown_ = sheet.drawn();
-        shownTitle_ = title;
-        update();
-    }
-    setAccessibleName(QStringLiteral("Sheet %1, %2").arg(number_ + 1).arg(title));
+    showLines();
+    setAccessibleName(QStringLiteral("Sheet %1, %2").arg(number_ + 1).arg(qstringOf(sheet.Label6.Text)));
     showBlinker(scale, steady);
     if (figure_ != nullptr) figure_->showChanges(scale);
     if (rounding_ != nullptr) {
@@ -154,6 +159,19 @@ void SheetView::showChanges(double scale, bool steady) {
         combo.Top += shadow;
         showCombo(*rounding_, combo, scale);
     }
+}
+
+// Paints anew only where the drawing differs from the one shown before.
+void SheetView::showLines() {
+    const DisplayList& drawn = frmPaper.Paper[number_].drawn();
+    const auto [before, now] = std::mismatch(shown_.begin(), shown_.end(), drawn.begin(), drawn.end());
+    QRectF changed;
+    for (auto operation = before; operation != shown_.end(); ++operation) changed |= extentOf(*operation);
+    for (auto operation = now; operation != drawn.end(); ++operation) changed |= extentOf(*operation);
+    if (changed.isEmpty()) return;
+    shown_ = drawn;
+    changed.translate(shadow, shadow);
+    update(QRectF(changed.topLeft() * scale_, changed.size() * scale_).toAlignedRect().adjusted(-1, -1, 1, 1));
 }
 
 // A button behind a line that ends at the border of the sheet goes below the line.
@@ -171,21 +189,34 @@ void SheetView::showBlinker(double scale, bool steady) {
     blinker_->showControl(button, scale, QStringLiteral("Next Step"));
 }
 
-void SheetView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.scale(scale_, scale_);
-    const Sheet& sheet = frmPaper.Paper[number_];
-    painter.setPen(Qt::NoPen);
+const QPixmap& SheetView::background() {
+    const QSize pixels = size() * devicePixelRatioF();
+    if (background_.size() == pixels) return background_;
+    background_ = QPixmap(pixels);
+    background_.setDevicePixelRatio(devicePixelRatioF());
+    background_.fill(Qt::transparent);
+    QPainter painter(&background_);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale_, scale_);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(30, 15, 0, 10));
+    const double width = frmPaper.Paper[number_].Width;
     for (int i = 0; i < 8; ++i) {  // soft: each layer darkens what the smaller ones leave
         const double out = shadow - i;
-        painter.setBrush(QColor(30, 15, 0, 10));
         painter.drawRoundedRect(
-            QRectF(shadow - out + 3, shadow - out + 4, sheet.Width + 2 * out - 4, paperHeight() + 2 * out - 4), out,
-            out);
+            QRectF(shadow - out + 3, shadow - out + 4, width + 2 * out - 4, paperHeight() + 2 * out - 4), out, out);
     }
     painter.translate(shadow, shadow);
-    paintSheet(painter, number_);
+    paintPaper(painter, number_);
+    return background_;
+}
+
+void SheetView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, background());
+    painter.scale(scale_, scale_);
+    painter.translate(shadow, shadow);
+    replay(frmPaper.Paper[number_].drawn(), painter);
 }
 
 void SheetView::mousePressEvent(QMouseEvent* event) {

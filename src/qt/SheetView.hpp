@@ -6,6 +6,7 @@
 #include "Windows.hpp"
 
 #include <QComboBox>
+#include <QPixmap>
 #include <QWidget>
 
 #include <array>
@@ -56,12 +57,15 @@ protected:
 
 private:
     void showBlinker(double scale, bool steady);
+    void showLines();
+    [[nodiscard]] const QPixmap& background();
 
     Stage& stage_;
     int number_;
     double scale_ = 1;
     DisplayList shown_;
     QString shownTitle_;
+    QPixmap background_;  // the empty paper with its shadow, as long as size and title stay
     PictureButton* blinker_;
     FigureView* figure_ = nullptr;   // on the first sheet
     QComboBox* rounding_ = nullptr;  // on the first sheet

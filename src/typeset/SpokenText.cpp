@@ -32,10 +32,11 @@ bool wordStartsAt(std::string_view text, std::size_t i) {
 }
 
 // Signs that mean mathematics wherever they stand.
-constexpr std::array<std::pair<char, std::string_view>, 9> alwaysSpoken{{
+constexpr std::array<std::pair<char, std::string_view>, 10> alwaysSpoken{{
     {'+', "plus"},
     {'*', "times"},
     {'=', "equals"},
+    {'$', "is not equal to"},
     {'<', "is less than"},
     {'>', "is greater than"},
     {'`', "pi"},

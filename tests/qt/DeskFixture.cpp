@@ -5,6 +5,7 @@
 #include "FreshProgram.hpp"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -26,12 +27,20 @@ DeskTest::~DeskTest() {
 
 void DeskTest::atNextDialog(const std::function<void(QWidget& dialog)>& act) {
     ++dialogsAwaited_;
-    QTimer::singleShot(0, frame.get(), [this, act] {
+    auto* watch = new QTimer(frame.get());
+    QObject::connect(watch, &QTimer::timeout, frame.get(), [this, watch, act] {
         QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
+        if (dialog == nullptr) return;
+        watch->stop();
+        watch->deleteLater();
         --dialogsAwaited_;
+        const QPointer<QWidget> opened = dialog;
         act(*dialog);
+        if (opened.isNull() || !opened->isVisible()) return;
+        ADD_FAILURE() << "the dialog was left open";
+        opened->close();
     });
+    watch->start(1);
 }
 
 void DeskTest::choose(const QString& typed) {
@@ -72,10 +81,14 @@ void DeskTest::clickOn(QWidget& widget) {
 }
 
 void DeskTest::shoot(const char* name) {
+    shootWidget(*frame, name);
+}
+
+void DeskTest::shootWidget(QWidget& widget, const char* name) {
     const QString folder = qEnvironmentVariable("ORDWISE_SHOTS");
     if (folder.isEmpty()) return;
     QTest::qWait(20);
-    EXPECT_TRUE(frame->grab().save(folder + QLatin1Char('/') + QString::fromLatin1(name) + QStringLiteral(".png")));
+    EXPECT_TRUE(widget.grab().save(folder + QLatin1Char('/') + QString::fromLatin1(name) + QStringLiteral(".png")));
 }
 
 }  // namespace ordwise::test

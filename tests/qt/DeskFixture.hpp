@@ -23,7 +23,6 @@ protected:
     void choose(const QString& typed);
     // What a person does with the next dialog; the test fails if none opens.
     void atNextDialog(const std::function<void(QWidget& dialog)>& act);
-    void expectDialogSeen();
 
     // Keys go to whatever has the keyboard, as they do on a real desk.
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
@@ -39,6 +38,7 @@ protected:
 
     // Keeps a picture of the frame in the folder that ORDWISE_SHOTS names, if it names one.
     void shoot(const char* name);
+    static void shootWidget(QWidget& widget, const char* name);
 
     // The widget that has the keyboard.
     QWidget* focused();

@@ -1,6 +1,9 @@
 // A student at the desk: choose, type, solve, ask, erase.
 #include "DeskFixture.hpp"
 
+#include "Art.hpp"
+#include "BoxEdit.hpp"
+#include "Catalogue.hpp"
 #include "ChooserDialog.hpp"
 #include "DeskView.hpp"
 #include "ExplainWindow.hpp"
@@ -8,10 +11,15 @@
 #include "SheetView.hpp"
 #include "StatusLine.hpp"
 #include "Workspace.hpp"
+#include "basFPrint.hpp"
 
 #include <QAction>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QTest>
+
+#include <algorithm>
+#include <vector>
 
 namespace ordwise::test {
 namespace {
@@ -119,6 +127,247 @@ TEST_F(Desk, draws_what_is_typed) {
     type(QStringLiteral("3~4+2~9"));
     EXPECT_FALSE(frame->statusLine().isRefusal()) << ws.ExplainOverrideText;
     shoot("typed-roots");
+}
+
+TEST_F(Desk, escape_in_the_chooser_keeps_the_old_problem) {
+    choose(QStringLiteral("solving"));
+    type(QStringLiteral("x+3"));
+    const DisplayList drawn = frmPaper.Paper[0].drawn();
+    atNextDialog([](QWidget& dialog) {
+        auto& chooser = dynamic_cast<ChooserDialog&>(dialog);
+        QTest::keyClicks(&chooser.searchBox(), QStringLiteral("volume"));
+        QTest::keyClick(&chooser.searchBox(), Qt::Key_Escape);
+    });
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(frmPaper.Paper[0].drawn(), drawn);
+    type(QStringLiteral("=12"));
+    EXPECT_EQ(ws.ProblemText, "x+3=12");
+    EXPECT_TRUE(frame->actionOf(frmMain.mnuSolve)->isEnabled());
+}
+
+TEST_F(Desk, the_chooser_is_worked_without_a_mouse_and_with_one) {
+    atNextDialog([this](QWidget& dialog) {
+        auto& chooser = dynamic_cast<ChooserDialog&>(dialog);
+        EXPECT_EQ(chooser.tabs().currentIndex(), 0);
+        QTest::keyClicks(&chooser.searchBox(), QStringLiteral("Perimeter of a T"));
+        EXPECT_EQ(chooser.list().currentItem()->text(), QStringLiteral("Perimeter of a Triangle"));
+        EXPECT_EQ(chooser.tree().currentItem()->text(0), QStringLiteral("Perimeter of a Triangle"));
+        shootWidget(dialog, "chooser");
+        chooser.tabs().setCurrentIndex(1);
+        EXPECT_TRUE(chooser.searchBox().hasFocus());
+        QTest::keyClick(&chooser.list(), Qt::Key_Up);
+        EXPECT_EQ(chooser.searchBox().text(), QStringLiteral("Perimeter of a Square/Rectangle"));
+        QTest::keyClick(&chooser.list(), Qt::Key_Return);
+    });
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(ws.TopicName, "Perimeter of a Square/Rectangle");
+
+    atNextDialog([](QWidget& dialog) {
+        auto& chooser = dynamic_cast<ChooserDialog&>(dialog);
+        QTreeWidgetItem* heading = chooser.tree().topLevelItem(0);
+        const auto click = [&](QTreeWidgetItem* item) {
+            chooser.tree().scrollToItem(item);
+            QTest::mouseClick(chooser.tree().viewport(), Qt::LeftButton, {},
+                              chooser.tree().visualItemRect(item).center());
+        };
+        click(heading);
+        EXPECT_TRUE(chooser.isVisible()) << "a heading only opens";
+        EXPECT_TRUE(heading->isExpanded());
+        click(heading->child(0));
+    });
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(ws.TopicName, "Arithmetic");
+}
+
+TEST_F(Desk, a_box_topic_is_filled_and_solved_from_its_boxes) {
+    choose(QStringLiteral("area of a tri"));
+    FigureView& figure = *frame->desk().sheet(0).figure();
+    EXPECT_EQ(focused(), &figure.box(1)) << "the first box takes the keys";
+    type(QStringLiteral("12x"));
+    EXPECT_EQ(figure.box(1).text(), QStringLiteral("12"));
+    EXPECT_TRUE(frame->statusLine().isRefusal());
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), &figure.box(2));
+    type(QStringLiteral("7.55"));
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(figure.box(2).text(), QStringLiteral("7.5"));
+    shoot("triangle-filled");
+    press(Qt::Key_Return);
+    while (frame->desk().sheet(0).blinker().isVisible()) press(Qt::Key_Return);
+    EXPECT_NE(ws.StepLines[ws.ShownStep].find("45"), std::string::npos) << ws.StepLines[ws.ShownStep];
+    shoot("geometry");
+}
+
+TEST_F(Desk, lists_are_chosen_from) {
+    choose(QStringLiteral("meter"));
+    FigureView& figure = *frame->desk().sheet(0).figure();
+    figure.combo(1).setFocus();
+    QTest::keyClick(&figure.combo(1), Qt::Key_Down);
+    EXPECT_EQ(frmPaper.Combo1.ListIndex, 1);
+    figure.box(4).setFocus();
+    type(QStringLiteral("5"));
+    EXPECT_TRUE(frame->actionOf(frmMain.mnuSolve)->isEnabled());
+    shoot("meters");
+    choose(QStringLiteral("rounding"));
+    QTest::keyClick(frame->desk().sheet(0).roundingList(), Qt::Key_Down);
+    EXPECT_EQ(frmPaper.Combo3.ListIndex, 1);
+}
+
+TEST_F(Desk, a_long_solution_goes_over_sheets_that_can_be_fetched_to_the_front) {
+    choose(QStringLiteral("complex"));
+    type(QStringLiteral("(4-2)+3^2+(7+1)*2-6/2+4*5-(3+4)*2"));
+    frame->actionOf(frmMain.mnuShowStep)->trigger();
+    press(Qt::Key_F5);
+    ASSERT_GE(ws.CurrentSheet, 2) << "the problem no longer fills three sheets";
+    shoot("three-sheets");
+    SheetView& first = frame->desk().sheet(0);
+    SheetView& second = frame->desk().sheet(1);
+    const auto above = [this](QWidget& a, QWidget& b) {
+        const QObjectList& stack = frame->desk().children();
+        return stack.indexOf(&a) > stack.indexOf(&b);
+    };
+    EXPECT_TRUE(above(second, first));
+    const QPoint corner(30, 60);
+    const double left = frmPaper.Paper[0].Left;
+    QTest::mousePress(&first, Qt::LeftButton, {}, corner);
+    EXPECT_TRUE(above(first, second));
+    EXPECT_TRUE(above(frame->desk().light(), first)) << "the light is never hidden";
+    QTest::mouseMove(&first, corner + QPoint(20, 0));
+    QTest::mouseRelease(&first, Qt::LeftButton, {}, corner);
+    EXPECT_GT(frmPaper.Paper[0].Left, left);
+}
+
+TEST_F(Desk, every_topic_opens_with_boxes_that_have_names_and_room) {
+    for (const std::string_view topic : topicNames()) {
+        const std::string trace(topic);
+        SCOPED_TRACE(trace);
+        choose(qstringOf(topic));
+        ASSERT_EQ(ws.TopicName, topic);
+        if (!frmPaper.Picture3.Visible) continue;
+        const FigureView& figure = *frame->desk().sheet(0).figure();
+        QStringList names;
+        QList<QRect> places;
+        for (int number = 1; number <= 6; ++number) {
+            const QWidget& box = figure.box(number);
+            if (!box.isVisible()) continue;
+            EXPECT_TRUE(figure.rect().contains(box.geometry())) << number;
+            EXPECT_FALSE(names.contains(box.accessibleName())) << box.accessibleName().toStdString();
+            names << box.accessibleName();
+            for (const QRect& other : places) EXPECT_FALSE(other.intersects(box.geometry())) << number;
+            places << box.geometry();
+        }
+    }
+}
+
+TEST_F(Desk, the_light_and_the_assistant_are_reached_by_keys) {
+    choose(QStringLiteral("arithmetic"));
+    type(QStringLiteral("++"));
+    frame->desk().light().setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Space);
+    QWidget& bubble = child<>("frmExplain");
+    EXPECT_TRUE(bubble.isVisible());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(bubble.isVisible());
+    frame->desk().assistant().setFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(bubble.isVisible()) << "the hint before anything is solved";
+    frame->desk().setFocus();
+    EXPECT_FALSE(bubble.isVisible()) << "gone when it loses the focus";
+    frame->desk().light().setFocus(Qt::TabFocusReason);
+    type(QStringLiteral("5"));
+    EXPECT_EQ(ws.ProblemText, "5") << "typing reaches the paper from anywhere on the desk";
+}
+
+TEST_F(Desk, a_dragged_assistant_does_not_speak) {
+    choose(QStringLiteral("arithmetic"));
+    PictureButton& wizard = frame->desk().assistant();
+    const double left = frmPaper.Wizard.Left;
+    QTest::mousePress(&wizard, Qt::LeftButton, {}, QPoint(50, 50));
+    QTest::mouseMove(&wizard, QPoint(10, 20));
+    QTest::mouseRelease(&wizard, Qt::LeftButton, {}, QPoint(50, 50));
+    EXPECT_LT(frmPaper.Wizard.Left, left - 20);
+    EXPECT_FALSE(child<>("frmExplain").isVisible());
+    clickOn(wizard);
+    EXPECT_TRUE(child<>("frmExplain").isVisible());
+}
+
+TEST_F(Desk, zoom_makes_everything_larger_and_fits_again) {
+    choose(QStringLiteral("area of a circle"));
+    const int sheet = frame->desk().sheet(0).width();
+    const int box = frame->desk().sheet(0).figure()->box(2).width();
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_NEAR(frame->desk().sheet(0).width(), sheet * 1.44, 3);
+    EXPECT_NEAR(frame->desk().sheet(0).figure()->box(2).width(), box * 1.44, 2);
+    shoot("zoomed");
+    press(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(frame->desk().sheet(0).width(), sheet);
+}
+
+TEST_F(Desk, signals_blink_or_stand_still) {
+    choose(QStringLiteral("fraction arithmetic"));
+    type(QStringLiteral("1/2+1/3"));
+    auto* steady = frame->findChild<QAction*>(QStringLiteral("steadySignals"));
+    ASSERT_NE(steady, nullptr);
+    steady->setChecked(false);
+    press(Qt::Key_F5);
+    PictureButton& next = frame->desk().sheet(0).blinker();
+    ASSERT_TRUE(next.isVisible());
+    const std::string first = next.imageKey();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return next.imageKey() != first; }, 1000)) << "it blinks";
+    steady->setChecked(true);
+    const std::string still = next.imageKey();
+    EXPECT_FALSE(QTest::qWaitFor([&] { return next.imageKey() != still; }, 900)) << "it stands still";
+    EXPECT_TRUE(next.isVisible());
+}
+
+TEST_F(Desk, a_faulty_line_is_told_and_the_program_goes_on) {
+    choose(QStringLiteral("arithmetic"));
+    atNextDialog([](QWidget& dialog) {
+        auto& box = dynamic_cast<QMessageBox&>(dialog);
+        EXPECT_EQ(box.text(), QStringLiteral("An error occurred while displaying information."));
+        box.accept();
+    });
+    PrintMathLine("x^2", false);
+    type(QStringLiteral("4+5"));
+    EXPECT_EQ(ws.ProblemText, "4+5");
+}
+
+// Counts how often a widget was painted.
+class PaintWatch : public QObject {
+public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+    int paints = 0;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++paints;
+        return false;
+    }
+};
+
+// A frame of the screen is 16 ms; the median keeps a busy machine from deciding.
+TEST_F(Desk, a_key_is_on_the_sheet_within_a_frame) {
+    choose(QStringLiteral("simplifying p"));
+    std::vector<qint64> times;
+    PaintWatch watch(frame->desk().sheet(0));
+    const QString keys = QStringLiteral("9(3x^2+8^2)-3/4+4x");
+    for (int round = 0; round < 5; ++round) {
+        for (const QChar key : keys) {
+            QElapsedTimer timer;
+            timer.start();
+            const int before = watch.paints;
+            type(QString(key));
+            while (watch.paints == before && timer.elapsed() < 1000) QCoreApplication::processEvents();
+            ASSERT_GT(watch.paints, before);
+            times.push_back(timer.nsecsElapsed());
+        }
+        for (int i = 0; i < keys.size(); ++i) press(Qt::Key_Backspace);
+    }
+    std::sort(times.begin(), times.end());
+    const double median = static_cast<double>(times[times.size() / 2]) / 1e6;
+    RecordProperty("median_us", static_cast<int>(median * 1000));
+    RecordProperty("slowest_us", static_cast<int>(times.back() / 1000));
+    EXPECT_LT(median, 16);
 }
 
 }  // namespace

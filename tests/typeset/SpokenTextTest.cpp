@@ -11,6 +11,7 @@ TEST(SpokenText, reads_signs_powers_and_fractions) {
     EXPECT_EQ(spoken("3x=-12"), "3 x equals minus 12");
     EXPECT_EQ(spoken("2^3^*y^-1^"), "2 cubed times y to the power minus 1");
     EXPECT_EQ(spoken("8{2>3"), "8 divided by 2 is greater than 3");
+    EXPECT_EQ(spoken("3$8"), "3 is not equal to 8");
     EXPECT_EQ(spoken("|-5|+3"), "bar minus 5 bar plus 3");
 }
 
