@@ -154,7 +154,7 @@ TEST_F(Desk, the_chooser_is_worked_without_a_mouse_and_with_one) {
         EXPECT_EQ(chooser.tree().currentItem()->text(0), QStringLiteral("Perimeter of a Triangle"));
         shootWidget(dialog, "chooser");
         chooser.tabs().setCurrentIndex(1);
-        EXPECT_TRUE(chooser.searchBox().hasFocus());
+        EXPECT_EQ(chooser.focusWidget(), &chooser.searchBox());
         QTest::keyClick(&chooser.list(), Qt::Key_Up);
         EXPECT_EQ(chooser.searchBox().text(), QStringLiteral("Perimeter of a Square/Rectangle"));
         QTest::keyClick(&chooser.list(), Qt::Key_Return);
