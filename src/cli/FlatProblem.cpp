@@ -17,7 +17,7 @@ class Flattener {
 public:
     explicit Flattener(std::string_view problem) : characters_(characters(problem)) {}
 
-    std::vector<TypedKey> keys() {
+    std::vector<ProblemKey> keys() {
         for (std::size_t i = 0; i < characters_.size(); ++i) take(i);
         return std::move(keys_);
     }
@@ -59,14 +59,14 @@ private:
     [[nodiscard]] std::string next(std::size_t i) const { return i + 1 < characters_.size() ? characters_[i + 1] : ""; }
 
     std::vector<std::string> characters_;
-    std::vector<TypedKey> keys_;
+    std::vector<ProblemKey> keys_;
     int exponentLength_ = -1;  // digits of the open exponent, -1 for none
     int rootLength_ = -1;      // characters of the open root, -1 for none
 };
 
 }  // namespace
 
-std::vector<TypedKey> keysOf(std::string_view problem) {
+std::vector<ProblemKey> keysOf(std::string_view problem) {
     return Flattener(problem).keys();
 }
 

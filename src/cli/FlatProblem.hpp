@@ -7,7 +7,7 @@
 
 namespace ordwise {
 
-struct TypedKey {
+struct ProblemKey {
     int at;           // index of the character in the text, from 0
     std::string key;  // what is typed for it
 };
@@ -18,6 +18,6 @@ struct TypedKey {
 // A second "^" or "~" closes only where the drawn form can have it: behind the digits of an
 // exponent or the content of a root, and not before something that would go on with it. Any other
 // is a key and meets the check.
-[[nodiscard]] std::vector<TypedKey> keysOf(std::string_view problem);
+[[nodiscard]] std::vector<ProblemKey> keysOf(std::string_view problem);
 
 }  // namespace ordwise

@@ -73,7 +73,7 @@ Json refusal(int at, const std::string& key, const std::string& reason) {
 // Types the problem; a refused key ends it unless refused keys are to be dropped.
 Json typeProblem(const SolveRequest& request) {
     Json refused = Json::array();
-    for (const TypedKey& typed : keysOf(request.problem)) {
+    for (const ProblemKey& typed : keysOf(request.problem)) {
         const KeyResult result = press(typed.key);
         if (result.accepted) continue;
         refused.push_back(refusal(typed.at, typed.key, result.reason));
