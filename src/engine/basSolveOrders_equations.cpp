@@ -278,6 +278,9 @@ void SetPolynomialToZero() {
     ReduceExpression(0, true);
     onSide(0);
     ReduceExpression(0);
+    // Where the left side was only put in order, no step has shown it yet.
+    ws.CurrentNote = "Remove cancelled terms from both sides.";
+    CommitStep();
 }
 
 void MultiplyByNegative() {

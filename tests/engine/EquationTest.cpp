@@ -142,6 +142,7 @@ TEST(SolveEquation, SetsAPolynomialToZeroFirst) {
     const Recorded steps = solvePolynomial("x^2=5x-6");
     EXPECT_EQ(steps.lines[1], "x^2^[-5x][+6]=5x[-5x]-6[+6]");
     EXPECT_EQ(steps.notes[1], "Set the polynomial equal to zero.");
+    EXPECT_EQ(solvePolynomial("6=5x-x^2").lines[3], "x^2^-5x+6=0");
 }
 
 TEST(SolveEquation, TakesAMinusOffBothSides) {
