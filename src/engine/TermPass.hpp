@@ -1,6 +1,6 @@
 // One pass of ReduceGroup over the terms of a group: what the term rules leave for the rebuild.
 //
-// Only the two halves of ReduceGroup include this. Texts are token text without "^1".
+// Only the parts of ReduceGroup include this. Texts are token text without "^1".
 #pragma once
 
 #include "BoundedArray.hpp"
@@ -56,8 +56,6 @@ void runTermRules(TermPass& pass);
 // Brings the rebuilt text into the TokenBuffer in order, with the leading term hint when it is due.
 void commitRebuilt(const TermPass& pass, const std::string& newText, bool silent);
 
-// A term as it stands, a coefficient 1 before letters left out. e.g. "-3x^2/4", "+1/2", "*5"
-[[nodiscard]] std::string termAsWritten(const ExprTerm& term);
 // The term of a bin, without a sign. e.g. -5/6 and "x" -> "5x/6"
 [[nodiscard]] std::string sizeText(const LikeBin& bin);
 

@@ -1,5 +1,6 @@
 // The second half of ReduceGroup: the text after a pass, and the polynomial in decreasing order.
 #include "TermPass.hpp"
+#include "TermText.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
@@ -32,7 +33,7 @@ std::string termsNotReached(const TermPass& pass) {
 
 // The degree by which a term is placed: the whole part of its exponent, 0 for what goes behind.
 int degreeOf(const ExprTerm& term) {
-    const std::string letters = withoutExponentOne(term.numText);
+    const std::string letters = lettersOf(term);
     if (letters.empty() || letters[0] == '^') return 0;
     return std::max(0, static_cast<int>(term.varExp[2]));
 }

@@ -6,14 +6,13 @@
 // Notes are markup, the pass's text is token text.
 #include "NumberText.hpp"
 #include "TermPass.hpp"
+#include "TermText.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 #include "basFormattingEq.hpp"
 #include "basReduceFunc.hpp"
 
-#include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <cstdlib>
 #include <numeric>
@@ -24,32 +23,14 @@ namespace {
 const std::string zeroNote = "0 divided by any number equals 0.";
 const std::string toFractionNote = "Convert the decimal number to a fraction.";
 
-bool isDigit(char c) {
-    return std::isdigit(static_cast<unsigned char>(c)) != 0;
-}
+// A decimal of more places has no fraction of 32-bit numbers.
+constexpr int mostPlaces = 9;
 
 bool isWhole(double value) {
     return value == std::nearbyint(value) && std::fabs(value) < 1e9;
 }
 
-// The number that a single prints as: 0.1, not 0.100000001.
-double asPrinted(float value) {
-    return lenientValueOf(textOf(value));
-}
-
 // --- terms and their texts
-
-std::string lettersOf(const ExprTerm& term) {
-    return withoutExponentOne(term.numText);
-}
-std::string lettersBelow(const ExprTerm& term) {
-    return withoutExponentOne(term.denText);
-}
-
-// e.g. the "^3" of 2^3
-bool isConstantPower(const ExprTerm& term) {
-    return lettersOf(term).substr(0, 1) == "^";
-}
 
 // e.g. 5, 2.5, 2^3; not x, 2^3x, 3/x, 1/2
 bool isPlainNumber(const ExprTerm& term) {
@@ -64,53 +45,11 @@ const ExprTerm& termAt(const TermPass& pass, int index) {
     return termOf(ws.MaxDepth, pass.group, index);
 }
 
-// Letters as a note shows them: every exponent and root closed. e.g. "x^2y" -> "x^2^y", "~3" -> "~3~"
-std::string shown(const std::string& letters) {
-    if (contains(letters, "~")) return letters + "~";
-    std::string text;
-    bool raised = false;
-    for (std::size_t i = 0; i < letters.size(); ++i) {
-        const bool inside = isDigit(letters[i]) || letters[i] == '.' || (letters[i] == '-' && letters[i - 1] == '^');
-        if (raised && !inside) text += '^';
-        raised = letters[i] == '^' || (raised && inside);
-        text += letters[i];
-    }
-    return raised ? text + '^' : text;
-}
-
-// A number and its letters, a 1 in front of letters not written. e.g. "1", "x" -> "x"; "-1" -> "-x"
-std::string withLetters(const std::string& number, const std::string& letters) {
-    if (letters.empty() || letters[0] == '^') return number + letters;
-    if (number == "1" || number == "-1") return number.substr(0, number.size() - 1) + letters;
-    return number + letters;
-}
-
-// A term as a note names it. e.g. 2, 1, "x" -> "2x"; 1, 3, "x" -> "#x/3#"
-std::string named(double num, double den, const std::string& letters, const std::string& below) {
-    const std::string above = withLetters(textOf(static_cast<float>(num)), shown(letters));
-    if (den == 1.0 && below.empty()) return above;
-    return "#" + above + "/" + withLetters(textOf(static_cast<float>(den)), shown(below)) + "#";
-}
-
-// |numerator / denominator| in simplest form by the settings. A written fraction is reduced on its
-// digits, not by a search: 1234/5678 must not become its neighbour of seven digits.
-// e.g. 4/6 -> "2/3", 2.5/3 -> "5/6"; in decimals 1/2 -> "0.5"
-std::string simplestText(const ExprTerm& term) {
-    if (!ws.UseFractions) return FractionText(term.numerator / term.denominator, term.numerator, term.denominator);
-    double above = std::fabs(asPrinted(term.numerator));
-    double below = asPrinted(term.denominator);
-    for (int places = 0; places < 7 && !(isWhole(above) && isWhole(below)); ++places) {
-        above = Round(above * 10, 6);
-        below = Round(below * 10, 6);
-    }
-    return CommonFactorText(above, below);
-}
-
 // The numerator of a simplest form, which tells the common factor. e.g. 4 of 4/6 -> "2/3" -> "2"
 std::string commonFactor(const ExprTerm& term, const std::string& simplest) {
     const double above = lenientValueOf(simplest);
-    const double factor = above == 0.0 ? static_cast<double>(term.denominator) : term.numerator / above;
-    return textOf(static_cast<float>(std::fabs(factor)));
+    const TermNumbers written = valuesOf(term);
+    return textOf(std::fabs(above == 0.0 ? written.below : written.above / above));
 }
 
 // --- what a rule leaves
@@ -143,7 +82,8 @@ void rewrite(TermPass& pass, const ExprTerm& term, const std::string& coefficien
 // A fraction of whole numbers on its own closes the sentence before the parenthesis.
 std::string convertNote(const ExprTerm& term, const std::string& decimal, bool closed) {
     const std::string sign = term.numerator < 0 ? "-" : "";
-    const std::string fraction = textOf(term.numerator) + shown(lettersOf(term)) + "/" + textOf(term.denominator);
+    const std::string above = withLetters(signedAbove(term), markupOf(lettersOf(term)));
+    const std::string fraction = above + "/" + numbersOf(term).below;
     const std::string note = "Convert #" + fraction +
                              "# to decimal notation by dividing the numerator by the denominator" +
                              (closed ? ". (" : " (") + (decimal == "0" ? "" : sign) + decimal + ").";
@@ -152,7 +92,7 @@ std::string convertNote(const ExprTerm& term, const std::string& decimal, bool c
 
 // e.g. "Reduce #4/6# by dividing the numerator and denominator by 2"
 std::string reduceNote(const ExprTerm& term, const std::string& numerator, const std::string& factor) {
-    return "Reduce #" + numerator + shown(lettersOf(term)) + "/" + textOf(term.denominator) +
+    return "Reduce #" + withLetters(numerator, markupOf(lettersOf(term))) + "/" + numbersOf(term).below +
            "# by dividing the numerator and denominator by " + factor;
 }
 
@@ -180,7 +120,7 @@ bool reduceBehindLetters(TermPass& pass, const ExprTerm& term) {
     if (!ws.UseFractions) {
         note = convertNote(term, simplest, false);
     } else if (lenientValueOf(simplest) != 0.0) {
-        note = reduceNote(term, textOf(std::fabs(term.numerator)), commonFactor(term, simplest)) + ".";
+        note = reduceNote(term, numbersOf(term).above, commonFactor(term, simplest)) + ".";
     }
     rewrite(pass, term, simplest, note);
     return true;
@@ -189,8 +129,9 @@ bool reduceBehindLetters(TermPass& pass, const ExprTerm& term) {
 // The first half of the sentence about two terms. e.g. -2, "x" -> "Subtract 2x from "
 std::string addOrSubtract(const ExprTerm& term) {
     const auto letters = lettersOf(term);
-    const std::string size = named(std::fabs(asPrinted(term.numerator)), asPrinted(term.denominator),
-                                   isConstantPower(term) ? "" : letters, lettersBelow(term));
+    const TermNumbers numbers = valuesOf(term);
+    const std::string size =
+        namedTerm(std::fabs(numbers.above), numbers.below, isConstantPower(term) ? "" : letters, lettersBelow(term));
     return term.numerator < 0 ? "Subtract " + size + " from " : "Add " + size + " and ";
 }
 
@@ -198,11 +139,7 @@ std::string addOrSubtract(const ExprTerm& term) {
 std::string namedSum(const LikeBin& bin) {
     const double sum = bin.num / bin.den;
     if (sum == 0.0) return "0";
-    LikeBin display = bin;
-    display.numKey = shown(bin.numKey);
-    display.denKey = shown(bin.denKey);
-    const std::string size = (sum < 0 ? "-" : "") + sizeText(display);
-    return contains(size, "/") ? "#" + size + "#" : size;
+    return markupOf((sum < 0 ? "-" : "") + sizeText(bin));
 }
 
 // A term like an earlier one. e.g. 3x+2x -> 5x, 2~3-~3 -> ~3
@@ -214,8 +151,8 @@ bool combineLikeTerms(TermPass& pass, const ExprTerm& term) {
     for (int b = 1; b < pass.binNext; ++b) {
         LikeBin& bin = pass.bins[b];
         if (bin.numKey != letters || bin.denKey != below) continue;
-        const std::string both = addOrSubtract(term) + named(bin.num, bin.den, letters, below);
-        bin.add(asPrinted(term.numerator), asPrinted(term.denominator));
+        const std::string both = addOrSubtract(term) + namedTerm(bin.num, bin.den, letters, below);
+        bin.add(valuesOf(term).above, valuesOf(term).below);
         markChanged(pass, both + " to form the new term (" + namedSum(bin) + ").");
         return true;
     }
@@ -253,10 +190,10 @@ bool simplifyFraction(TermPass& pass, const ExprTerm& term) {
         note = zeroNote;
     } else {
         const std::string factor = commonFactor(term, simplest);
-        const std::string written = textOf(term.numerator) + "/" + textOf(term.denominator);
+        const std::string written = signedAbove(term) + "/" + numbersOf(term).below;
         const std::string sign = term.numerator < 0 ? "-" : "";
-        note = reduceNote(term, textOf(term.numerator), factor) + ". ( #" + written + "# = #" + sign + factor + "*" +
-               above + "/" + factor + "*" + (bar == std::string::npos ? "1" : simplest.substr(bar + 1)) + "# )";
+        note = reduceNote(term, signedAbove(term), factor) + ". ( #" + written + "# = #" + sign + factor + "*" + above +
+               "/" + factor + "*" + (bar == std::string::npos ? "1" : simplest.substr(bar + 1)) + "# )";
     }
     rewrite(pass, term, simplest, note);
     return true;
@@ -272,12 +209,12 @@ void countNumber(TermPass& pass, const ExprTerm& term, double num, double den, c
         numbers.num = num;
         numbers.den = den;
     } else {
-        const std::string first = named(numbers.num, numbers.den, "", "");
+        const std::string first = namedTerm(numbers.num, numbers.den, "", "");
         numbers.add(num, den);
-        LikeBin worth = numbers;
         ExprTerm second = term;
         second.numerator = static_cast<float>(num);
-        const std::string sentence = addOrSubtract(second) + first + " to form the new term (" + namedSum(worth) + ").";
+        const std::string sentence =
+            addOrSubtract(second) + first + " to form the new term (" + namedSum(numbers) + ").";
         markChanged(pass, note.empty() ? sentence : note);
     }
     pass.numberTerms += 1;
@@ -287,8 +224,7 @@ void countNumber(TermPass& pass, const ExprTerm& term, double num, double den, c
 bool countFraction(TermPass& pass, const ExprTerm& term) {
     if (term.fractionText.empty() || isConstantPower(term)) return false;
     if (!ws.UseFractions || !pass.holdsVariable || !lettersBelow(term).empty()) return false;
-    countNumber(pass, term, asPrinted(term.numerator), asPrinted(term.denominator),
-                "Combine fractions using fraction arithmetic.");
+    countNumber(pass, term, valuesOf(term).above, valuesOf(term).below, "Combine fractions using fraction arithmetic.");
     return true;
 }
 
@@ -309,28 +245,14 @@ bool keepConstantPower(TermPass& pass, const ExprTerm& term) {
     return true;
 }
 
-// Significant digits of a decimal. e.g. "0.0250" -> 3, "0.3333333" -> 7
-int digitCount(const std::string& decimal) {
-    const std::size_t first = decimal.find_first_of("123456789");
-    if (first == std::string::npos) return 0;
-    return static_cast<int>(
-        std::count_if(decimal.begin() + static_cast<std::ptrdiff_t>(first), decimal.end(), isDigit));
-}
-
-// The fraction that a decimal spells. One of all seven digits of a single is taken for a fraction
-// that was cut off, and searched. e.g. 2.5 -> "5/2", 0.035937 -> "35937/1000000", 0.3333333 -> "1/3"
-std::string fractionOfDecimal(const ExprTerm& term) {
-    constexpr int digitsOfSingle = 7;
-    return digitCount(textOf(term.numerator)) < digitsOfSingle ? simplestText(term) : FractionText(term.numerator);
-}
-
-// e.g. 2.5+1 -> 5/2+1
+// e.g. 2.5+1 -> 5/2+1, 0.035937 -> 35937/1000000
 bool convertDecimal(TermPass& pass, const ExprTerm& term) {
     if (!ws.UseFractions || !isPlainNumber(term) || isConstantPower(term)) return false;
     if (term.denominator != 1.0F || isWhole(static_cast<double>(term.numerator))) return false;
-    const std::string fraction = fractionOfDecimal(term);
-    if (fraction == textOf(std::fabs(term.numerator))) return false;
-    rewrite(pass, term, fraction, toFractionNote);
+    const std::string written = textOf(std::fabs(term.numerator));
+    const std::size_t point = written.find('.');
+    if (point == std::string::npos || contains(written, "E") || written.size() - point - 1 > mostPlaces) return false;
+    rewrite(pass, term, simplestText(term), toFractionNote);
     return true;
 }
 
@@ -346,22 +268,25 @@ bool roundResult(TermPass& pass, const ExprTerm& term) {
     const std::string result = FractionText(term.numerator);
     if (result == textOf(std::fabs(term.numerator))) return false;
     const int places = ws.RoundPlaces;
-    rewrite(pass, term, result, places <= 3 ? notes[places] : "Round to " + textOf(places) + " decimal places.");
+    rewrite(pass, term, result,
+            places >= 0 && places <= 3 ? notes[places] : "Round to " + textOf(places) + " decimal places.");
     return true;
 }
 
 // e.g. 14-5 -> 9, 2^3+1 -> 9
 bool addNumber(TermPass& pass, const ExprTerm& term) {
     if (!isPlainNumber(term)) return false;
-    const double size = std::pow(std::fabs(asPrinted(term.numerator)), static_cast<double>(term.varExp[1]));
-    countNumber(pass, term, term.numerator < 0 ? -size : size, asPrinted(term.denominator), "");
+    const TermNumbers written = valuesOf(term);
+    const double size = std::pow(std::fabs(written.above), static_cast<double>(term.varExp[1]));
+    countNumber(pass, term, written.above < 0 ? -size : size, written.below, "");
     return true;
 }
 
-// The coefficient of a letter term. e.g. 4x/6 -> 2x/3; in decimals x/2 -> 0.5x. Under an exponent of
-// its own the number waits: 8^3x/10 is not 4^3x/5.
+// The coefficient of a letter term. e.g. 4x/6 -> 2x/3, 3x/1 -> 3x; in decimals x/2 -> 0.5x. Under an
+// exponent of its own the number waits: 8^3x/10 is not 4^3x/5.
 bool simplifyCoefficient(TermPass& pass, const ExprTerm& term) {
-    if (term.denominator == 1.0F || isConstantPower(term)) return false;
+    const bool overOne = term.denominator == 1.0F && contains(term.termText, "/") && lettersBelow(term).empty();
+    if ((term.denominator == 1.0F && !overOne) || isConstantPower(term)) return false;
     const std::string simplest = simplestText(term);
     if (simplest == textOf(std::fabs(term.numerator)) + "/" + textOf(term.denominator)) return false;
     const std::string note = ws.UseFractions ? "Reduce fraction by dividing the numerator and denominator by " +
@@ -374,8 +299,8 @@ bool simplifyCoefficient(TermPass& pass, const ExprTerm& term) {
 // The first term of its shape. e.g. 3x opens the bin of x
 bool openBin(TermPass& pass, const ExprTerm& term) {
     LikeBin& bin = pass.bins[pass.binNext];
-    bin.num = asPrinted(term.numerator);
-    bin.den = asPrinted(term.denominator);
+    bin.num = valuesOf(term).above;
+    bin.den = valuesOf(term).below;
     bin.numKey = lettersOf(term);
     bin.denKey = lettersBelow(term);
     bin.written = termAsWritten(term);
@@ -393,10 +318,10 @@ const ExprTerm& neighbour(const TermPass& pass, int index) {
 void dropZero(TermPass& pass, int index) {
     const ExprTerm& other = neighbour(pass, index);
     const std::string name =
-        named(asPrinted(other.numerator), asPrinted(other.denominator), lettersOf(other), lettersBelow(other));
+        namedTerm(valuesOf(other).above, valuesOf(other).below, lettersOf(other), lettersBelow(other));
     const ExprTerm& zero = termAt(pass, index);
     const std::string verb = zero.lead == "-" ? "Subtract " : "Add ";
-    const std::string size = "0" + shown(lettersOf(zero));
+    const std::string size = "0" + markupOf(lettersOf(zero));
     markChanged(pass,
                 verb + size + (zero.lead == "-" ? " from " : " and ") + name + " to form the new term (" + name + ").");
 }
@@ -407,7 +332,7 @@ bool dropZeroTerm(TermPass& pass, const ExprTerm& term) {
     if (termCount(pass) > 1) {
         dropZero(pass, pass.lastTermRead);
     } else {
-        markChanged(pass, "Multiply 0 by " + shown(letters) + " using the order of operations.");
+        markChanged(pass, "Multiply 0 by " + markupOf(letters) + " using the order of operations.");
     }
     return true;
 }
@@ -421,12 +346,12 @@ constexpr Rule rules[] = {
     combineLikeTerms,     // before coefficients are reduced: 1/2x+1/2x is x at once
     zerothPower,          // before powers of numbers, which it would look like
     simplifyFraction,     // before a fraction is counted or kept
-    countFraction,        //
+    countFraction,        // among letters a fraction is a number
     keepFraction,         // what is left of the written fractions
     keepConstantPower,    // before plain numbers, which a positive power is
     convertDecimal,       // before numbers are added: fractions are added by their own method
     roundResult,          // a single number has nothing to be added to
-    addNumber,            //
+    addNumber,            // what is left of the numbers
     simplifyCoefficient,  // letter terms only from here on
     openBin               // what no rule has taken
 };
@@ -449,15 +374,6 @@ void LikeBin::add(double numerator, double denominator) {
     const auto factor = static_cast<double>(std::gcd(std::llabs(std::llround(num)), std::llround(den)));
     num /= factor;
     den /= factor;
-}
-
-std::string termAsWritten(const ExprTerm& term) {
-    const std::string letters = lettersOf(term);
-    const std::string below = lettersBelow(term);
-    if (!term.fractionText.empty()) return term.lead + term.fractionText + letters + below;
-    std::string text = term.lead + withLetters(textOf(std::fabs(term.numerator)), letters);
-    if (term.denominator != 1.0F || !below.empty()) text += "/" + withLetters(textOf(term.denominator), below);
-    return text;
 }
 
 std::string sizeText(const LikeBin& bin) {

@@ -4,6 +4,7 @@
 // it. ReduceGroup's term rules and its rebuild stand in basReduceFunc.
 #include "NumberText.hpp"
 #include "TermPass.hpp"
+#include "TermText.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
@@ -177,15 +178,15 @@ std::string movedNote(const ExprTerm& term) {
 // A term of the pre-pass. Only the first one with a negative exponent is moved below the bar; those
 // behind it wait for the next pass. Numbers and powers of numbers stay.
 std::string prePassTerm(const ExprTerm& term, bool& moved) {
-    const std::string letters = withoutExponentOne(term.numText);
-    const bool number = letters.empty() && withoutExponentOne(term.denText).empty();
+    const std::string letters = lettersOf(term);
+    const bool number = letters.empty() && lettersBelow(term).empty();
     if (number || letters.substr(0, 1) == "^" || moved || term.numerator == 0.0F) return termAsWritten(term);
     if (contains(letters, "^-")) {
         moved = true;
         ws.CurrentNote = movedNote(term);
     }
-    return term.lead + NegativeExponentText(letters, std::fabs(term.numerator), withoutExponentOne(term.denText),
-                                            std::fabs(term.denominator));
+    return term.lead +
+           NegativeExponentText(letters, std::fabs(term.numerator), lettersBelow(term), std::fabs(term.denominator));
 }
 
 // Negative exponents go below the bar, and the fractions of an equation into lowest terms.
