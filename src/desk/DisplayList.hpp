@@ -21,6 +21,7 @@ struct Colour {
 };
 
 inline constexpr Colour black{0, 0, 0};
+inline constexpr Colour white{255, 255, 255};
 inline constexpr Colour red{255, 0, 0};
 inline constexpr Colour blue{0, 0, 255};
 

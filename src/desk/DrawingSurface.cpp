@@ -5,43 +5,82 @@
 namespace ordwise {
 namespace {
 
-// Glyphs that go on where a run of the same style ended belong to that run.
-bool continues(const Glyphs& run, const DrawingSurface& pen) {
-    constexpr double joint = 1e-6;
-    return run.face == pen.FontFace && run.size == pen.FontSize && run.colour == pen.ForeColor &&
-           std::abs(run.y - pen.CurrentY) < joint &&
-           std::abs(run.x + textWidth(run.face, run.text, run.size) - pen.CurrentX) < joint;
-}
+struct Shift {
+    double right = 0;
+    double down = 0;
+
+    void operator()(Stroke& stroke) const {
+        stroke.x1 += right;
+        stroke.y1 += down;
+        stroke.x2 += right;
+        stroke.y2 += down;
+    }
+    template <class Placed>
+    void operator()(Placed& placed) const {
+        placed.x += right;
+        placed.y += down;
+    }
+};
 
 }  // namespace
+
+void DrawingSurface::Scale(double left, double top, double right, double bottom, const DrawingArea& area) {
+    perX_ = area.width / (right - left);
+    perY_ = area.height / (bottom - top);
+    originX_ = area.x - left * perX_;
+    originY_ = area.y - top * perY_;
+}
+
+double DrawingSurface::TextWidth(std::string_view text) const {
+    return textWidth(FontFace, text, FontSize) / std::abs(perX_);
+}
+
+double DrawingSurface::TextHeight() const {
+    return lineHeightOf(FontFace, FontSize) / std::abs(perY_);
+}
+
+// Glyphs that go on where a run of the same style ended belong to that run.
+bool DrawingSurface::continues(const Glyphs& run) const {
+    constexpr double joint = 1e-6;
+    return run.face == FontFace && run.size == FontSize && run.colour == ForeColor &&
+           std::abs(run.y - down(CurrentY)) < joint &&
+           std::abs(run.x + textWidth(run.face, run.text, run.size) - across(CurrentX)) < joint;
+}
 
 void DrawingSurface::print(std::string_view text) {
     if (text.empty()) return;
     Glyphs* run = drawn_.empty() ? nullptr : std::get_if<Glyphs>(&drawn_.back());
-    if (run != nullptr && continues(*run, *this)) {
+    if (run != nullptr && continues(*run)) {
         run->text += text;
     } else if (text.find_first_not_of(' ') != std::string_view::npos) {  // blanks alone draw nothing
-        drawn_.push_back(Glyphs{std::string(text), CurrentX, CurrentY, FontFace, FontSize, ForeColor});
+        drawn_.push_back(Glyphs{std::string(text), across(CurrentX), down(CurrentY), FontFace, FontSize, ForeColor});
     }
-    CurrentX += textWidth(FontFace, text, FontSize);
+    CurrentX += TextWidth(text);
 }
 
 void DrawingSurface::printLine(std::string_view text) {
     print(text);
     CurrentX = 0;
-    CurrentY += lineHeightOf(FontFace, FontSize);
+    CurrentY += TextHeight();
 }
 
 void DrawingSurface::line(double x1, double y1, double x2, double y2) {
-    drawn_.push_back(Stroke{x1, y1, x2, y2, DrawWidth, ForeColor});
+    drawn_.push_back(Stroke{across(x1), down(y1), across(x2), down(y2), DrawWidth, ForeColor});
 }
 
 void DrawingSurface::circle(double x, double y, double radius, bool filled) {
-    drawn_.push_back(Circle{x, y, radius, DrawWidth, ForeColor, filled});
+    drawn_.push_back(Circle{across(x), down(y), radius * std::abs(perX_), DrawWidth, ForeColor, filled});
 }
 
 void DrawingSurface::image(std::string_view key, double x, double y, double width, double height) {
-    drawn_.push_back(Picture{std::string(key), x, y, width, height});
+    drawn_.push_back(Picture{std::string(key), across(x), down(y), width * std::abs(perX_), height * std::abs(perY_)});
+}
+
+void DrawingSurface::place(const DisplayList& drawing, double x, double y) {
+    for (DrawOperation operation : drawing) {
+        std::visit(Shift{x, y}, operation);
+        drawn_.push_back(std::move(operation));
+    }
 }
 
 void DrawingSurface::NewPage() {}

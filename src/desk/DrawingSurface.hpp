@@ -8,6 +8,13 @@
 
 namespace ordwise {
 
+struct DrawingArea {
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+};
+
 class DrawingSurface {
 public:
     DrawingSurface() = default;
@@ -23,16 +30,29 @@ public:
     double FontSize = 18;  // points
     Face FontFace = Face::Halvern;
     Colour ForeColor = black;
-    double DrawWidth = 1;  // of strokes and circles
+    Colour BackColor = white;
+    double DrawWidth = 1;  // of strokes and circles, in units of the drawing
+
+    // The pen's own units: from now on (left, top) to (right, bottom) lie over an area of the drawing
+    // that begins at (x, y). Without it the pen counts in units of the drawing. Letters keep their
+    // size; their widths and heights are told in the pen's units.
+    // e.g. Scale(0, 0, 800, 600, page) for a page, Scale(-20, 20, 20, -20, window) for a graph
+    void Scale(double left, double top, double right, double bottom, const DrawingArea& area);
+
+    // Room that text of the current font takes, in the pen's units.
+    [[nodiscard]] double TextWidth(std::string_view text) const;
+    [[nodiscard]] double TextHeight() const;
 
     // Text at the pen: CurrentX moves by its width.
     void print(std::string_view text);
     // The same, then the pen goes to x 0 and one line of the current font down.
     void printLine(std::string_view text);
-    // Strokes and circles leave the pen where it is.
+    // Strokes and circles leave the pen where it is. A radius counts in units across.
     void line(double x1, double y1, double x2, double y2);
     void circle(double x, double y, double radius, bool filled = false);
     void image(std::string_view key, double x, double y, double width, double height);
+    // A finished drawing, its corner at (x, y) of this drawing.
+    void place(const DisplayList& drawing, double x, double y);
     // A fresh page; a surface that is one page starts over nothing and keeps its list.
     virtual void NewPage();
 
@@ -42,6 +62,17 @@ public:
 
 protected:
     DisplayList drawn_;
+
+private:
+    [[nodiscard]] double across(double x) const { return originX_ + x * perX_; }
+    [[nodiscard]] double down(double y) const { return originY_ + y * perY_; }
+    [[nodiscard]] bool continues(const Glyphs& run) const;
+
+    // Where the pen's (0, 0) lies in the drawing, and how much of it one unit of the pen takes.
+    double originX_ = 0;
+    double originY_ = 0;
+    double perX_ = 1;
+    double perY_ = 1;
 };
 
 }  // namespace ordwise

@@ -26,19 +26,43 @@ constexpr std::array<int, 95> explanationWidths{
     600, 500, 611, 444, 611, 500, 389, 556, 611, 333, 333, 611, 333, 889, 611, 556,
     611, 611, 389, 444, 333, 611, 556, 833, 500, 556, 500, 606, 232, 472, 450,
 };
+
+constexpr std::array<int, 95> sansWidths{
+    278, 278, 355, 556, 556, 889, 667, 191, 333, 333, 389, 584, 278, 333, 278, 278,
+    556, 556, 556, 556, 556, 556, 556, 556, 556, 556, 278, 278, 584, 584, 584, 556,
+    1015, 667, 667, 722, 722, 667, 611, 778, 722, 278, 500, 667, 556, 833, 722, 778,
+    667, 778, 722, 667, 611, 722, 667, 944, 667, 667, 611, 278, 278, 278, 469, 556,
+    333, 556, 556, 500, 556, 556, 278, 556, 556, 222, 222, 500, 222, 833, 556, 556,
+    556, 556, 333, 500, 278, 556, 500, 722, 500, 500, 500, 334, 260, 334, 584,
+};
 // clang-format on
+
+// Every letter of a typewriter is as wide as any other.
+constexpr std::array<int, 95> courierWidths = [] {
+    std::array<int, 95> widths{};
+    widths.fill(600);
+    return widths;
+}();
 
 constexpr double ascent = 0.95;
 
 const std::array<int, 95>& widthsOf(Face face) {
-    return face == Face::Halvern ? halvernWidths : explanationWidths;
+    switch (face) {
+        case Face::Halvern: return halvernWidths;
+        case Face::Explanation: return explanationWidths;
+        case Face::Sans: return sansWidths;
+        case Face::Courier: break;
+    }
+    return courierWidths;
 }
 
 }  // namespace
 
 double emOf(Face face, double points) {
     // 20 units at 18 points, where sheets are written, and 11 at 8 points, where exponents are.
-    return face == Face::Halvern ? 0.9 * points + 3.8 : points + 2;
+    if (face == Face::Halvern) return 0.9 * points + 3.8;
+    if (face == Face::Explanation) return points + 2;
+    return points * 96 / 72;
 }
 
 double ascentOf(Face face, double points) {
@@ -47,7 +71,7 @@ double ascentOf(Face face, double points) {
 
 double lineHeightOf(Face face, double points) {
     // Explanations are prose with fractions in it, which need more room between the lines.
-    return (face == Face::Halvern ? 1.2 : 1.45) * emOf(face, points);
+    return (face == Face::Explanation ? 1.45 : 1.2) * emOf(face, points);
 }
 
 double textWidth(Face face, std::string_view text, double points) {

@@ -2,8 +2,11 @@
 // alike because none of them asks a font.
 //
 // The figures for letters and digits are the advance widths of TeX Gyre Schola (HalvernFont) and
-// TeX Gyre Pagella Bold (the explanation face), in thousandths of an em, read from the fonts. The
-// mathematical shapes of HalvernFont are our own drawings and so are their widths.
+// TeX Gyre Pagella Bold (the explanation face), of TeX Gyre Heros and TeX Gyre Cursor Bold (the faces
+// of the graph), in thousandths of an em, read from the fonts. The mathematical shapes of HalvernFont
+// are our own drawings and so are their widths.
+//
+// A unit is a 96th of an inch on paper and a pixel of an ordinary screen.
 #pragma once
 
 #include <string_view>
@@ -11,8 +14,10 @@
 namespace ordwise {
 
 enum class Face {
-    Halvern,     // the schoolbook face of the sheets
-    Explanation  // the face of the explanation window and of printed notes
+    Halvern,      // the schoolbook face of the sheets
+    Explanation,  // the face of the explanation window and of printed notes
+    Sans,         // the face of the graph's numbers
+    Courier       // the bold face of the graph's quadrants
 };
 
 // The height of the em in surface units for a font of `points`. HalvernFont is cut a little larger

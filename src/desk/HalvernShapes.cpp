@@ -138,6 +138,7 @@ struct OwnShapes {
 }  // namespace
 
 const Shape* shapeOf(Face face, char character) {
+    if (face == Face::Sans || face == Face::Courier) return nullptr;  // no mathematics is written in them
     static const OwnShapes own;
     switch (character) {
         case '`': return &own.pi;

@@ -32,8 +32,13 @@ std::string escaped(const std::string& text) {
 }
 
 const char* fontOf(Face face) {
-    return face == Face::Halvern ? " font-family=\"'TeX Gyre Schola', 'Century Schoolbook', serif\""
-                                 : " font-family=\"'TeX Gyre Pagella', Palatino, serif\" font-weight=\"bold\"";
+    switch (face) {
+        case Face::Halvern: return " font-family=\"'TeX Gyre Schola', 'Century Schoolbook', serif\"";
+        case Face::Explanation: return " font-family=\"'TeX Gyre Pagella', Palatino, serif\" font-weight=\"bold\"";
+        case Face::Sans: return " font-family=\"'TeX Gyre Heros', Helvetica, Arial, sans-serif\"";
+        case Face::Courier: break;
+    }
+    return " font-family=\"'TeX Gyre Cursor', 'Courier New', monospace\" font-weight=\"bold\"";
 }
 
 class SvgWriter {
@@ -97,12 +102,12 @@ private:
 
 }  // namespace
 
-std::string svgOf(const DisplayList& list, double width, double height) {
+std::string svgOf(const DisplayList& list, double width, double height, Colour background) {
     const std::string size = number(width) + " " + number(height);
     SvgWriter writer;
     writer.svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 " + size + "\"" +
                  attribute("width", number(width)) + attribute("height", number(height)) + ">\n" +
-                 "<rect width=\"100%\" height=\"100%\" fill=\"#ffffff\"/>\n";
+                 "<rect width=\"100%\" height=\"100%\"" + attribute("fill", colourText(background)) + "/>\n";
     for (const DrawOperation& operation : list) std::visit(writer, operation);
     return writer.svg + "</svg>\n";
 }

@@ -7,9 +7,9 @@
 
 namespace ordwise {
 
-// The list on a white page of `width` by `height` surface units. Letters and digits are text in the
+// The list on a page of `width` by `height` surface units. Letters and digits are text in the
 // faces of HalvernShapes, placed glyph by glyph; signs, strokes and circles are paths. Pictures are
 // links to their key in the folder of the file, "check.svg".
-[[nodiscard]] std::string svgOf(const DisplayList& list, double width, double height);
+[[nodiscard]] std::string svgOf(const DisplayList& list, double width, double height, Colour background = white);
 
 }  // namespace ordwise

@@ -17,15 +17,25 @@ QColor colourOf(Colour colour) {
     return QColor(colour.red, colour.green, colour.blue);
 }
 
+QString familyOf(Face face) {
+    switch (face) {
+        case Face::Halvern: return QStringLiteral("TeX Gyre Schola");
+        case Face::Explanation: return QStringLiteral("TeX Gyre Pagella");
+        case Face::Sans: return QStringLiteral("TeX Gyre Heros");
+        case Face::Courier: break;
+    }
+    return QStringLiteral("TeX Gyre Cursor");
+}
+
 // The text face at the height of em, without hinting, so that a line looks alike at every scale. A
 // machine without the face gets another serif one: every glyph is placed by itself, nothing moves.
 const QRawFont& rawFont(Face face, double em) {
     static std::map<std::pair<Face, double>, QRawFont> fonts;
     const auto known = fonts.find({face, em});
     if (known != fonts.end()) return known->second;
-    QFont font(face == Face::Halvern ? QStringLiteral("TeX Gyre Schola") : QStringLiteral("TeX Gyre Pagella"));
-    font.setStyleHint(QFont::Serif);
-    font.setBold(face == Face::Explanation);
+    QFont font(familyOf(face));
+    font.setStyleHint(face == Face::Sans ? QFont::SansSerif : face == Face::Courier ? QFont::Monospace : QFont::Serif);
+    font.setBold(face == Face::Explanation || face == Face::Courier);
     font.setHintingPreference(QFont::PreferNoHinting);
     QRawFont raw = QRawFont::fromFont(font);
     raw.setPixelSize(em);
