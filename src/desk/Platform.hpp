@@ -2,10 +2,13 @@
 // terminal and the tests; the desktop answers them with real dialogs, files and printers.
 #pragma once
 
+#include "DisplayList.hpp"
+
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ordwise {
 
@@ -42,12 +45,49 @@ public:
     [[nodiscard]] virtual std::string today() const = 0;
 };
 
+// A colour for the user to choose; empty when the dialog was cancelled.
+class ColourDialog {
+public:
+    virtual ~ColourDialog() = default;
+    virtual std::optional<Colour> chooseColour(Colour current) = 0;
+};
+
+// A sheet of paper in 96ths of an inch, as it stands in front of the reader.
+struct PaperSize {
+    double width = 816;  // Letter
+    double height = 1056;
+    double margin = 48;
+};
+
+// What is sent to the printer in one piece. A page is drawn with its origin at the corner of the
+// printable area, that is, the margin in from the edges of the paper.
+struct PrintJob {
+    std::string title;
+    PaperSize paper;
+    std::vector<DisplayList> pages;
+};
+
+// A job is laid out to its end before it is sent, so that a fault on the way leaves nothing behind.
+class Printer {
+public:
+    virtual ~Printer() = default;
+    // Empty when there is no printer.
+    [[nodiscard]] virtual std::string DeviceName() const = 0;
+    [[nodiscard]] virtual PaperSize paper() const = 0;
+    // Prints all pages, or says in one sentence why it could not. Empty when it went well.
+    [[nodiscard]] virtual std::string print(const PrintJob& job) = 0;
+    // The dialog in which the user chooses a printer and its paper.
+    virtual void setup() = 0;
+};
+
 // The outside that the program is running in. All pointers are set before any routine of the logic
 // runs and stay valid while it does; the platform owns nothing.
 struct Platform {
     Dialogs* dialogs = nullptr;
     WindowOpener* windows = nullptr;
     Clock* clock = nullptr;
+    ColourDialog* colours = nullptr;
+    Printer* printer = nullptr;
 };
 
 extern Platform platform;

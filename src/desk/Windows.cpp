@@ -1,6 +1,8 @@
 #include "Windows.hpp"
 
+#include "GraphWindow.hpp"
 #include "Platform.hpp"
+#include "PrintWindows.hpp"
 
 namespace ordwise {
 
@@ -70,6 +72,10 @@ void setSolveEnabled(bool enabled) {
 void ResetWindows() {
     frmMain = MainWindow{};
     frmPaper = PaperWindow{};
+    frmGraph = GraphWindow{};
+    graphSettings = GraphSettings{};
+    frmPrintSetup = PrintSetupWindow{};
+    frmPrintPreview = PrintPreviewWindow{};
 }
 
 }  // namespace ordwise

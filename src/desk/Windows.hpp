@@ -35,6 +35,10 @@ struct ComboControl : Control {
     int ListIndex = 0;
 };
 
+struct ListControl : Control {
+    std::vector<std::string> List;
+};
+
 struct TimerControl {
     bool Enabled = false;
     int Interval = 0;  // milliseconds

@@ -15,8 +15,21 @@ std::string PlainDialogs::inputBox(std::string_view prompt, std::string_view cap
     return answer;
 }
 
+std::optional<Colour> PlainColours::chooseColour(Colour current) {
+    offered.push_back(current);
+    if (answers.empty()) return std::nullopt;
+    const Colour answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+std::string PlainPrinter::print(const PrintJob& job) {
+    if (refusal.empty()) jobs.push_back(job);
+    return refusal;
+}
+
 PlainPlatform::PlainPlatform() : before_(platform) {
-    platform = Platform{&dialogs, &windows, &clock};
+    platform = Platform{&dialogs, &windows, &clock, &colours, &printer};
 }
 
 PlainPlatform::~PlainPlatform() {

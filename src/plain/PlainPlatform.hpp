@@ -60,7 +60,31 @@ public:
     [[nodiscard]] std::string today() const override { return date; }
 };
 
-// The three together; makes itself the platform of the process for as long as it lives.
+// Answers with the next colour of a list, and cancels when there is none left.
+class PlainColours : public ColourDialog {
+public:
+    std::deque<Colour> answers;
+    std::vector<Colour> offered;
+
+    std::optional<Colour> chooseColour(Colour current) override;
+};
+
+// Keeps the jobs that were printed; refuses them with a sentence when one is set.
+class PlainPrinter : public Printer {
+public:
+    std::string name = "Plain printer";
+    PaperSize size;
+    std::string refusal;
+    std::vector<PrintJob> jobs;
+    int setups = 0;
+
+    [[nodiscard]] std::string DeviceName() const override { return name; }
+    [[nodiscard]] PaperSize paper() const override { return size; }
+    [[nodiscard]] std::string print(const PrintJob& job) override;
+    void setup() override { ++setups; }
+};
+
+// All together; makes itself the platform of the process for as long as it lives.
 class PlainPlatform {
 public:
     PlainPlatform();
@@ -71,6 +95,8 @@ public:
     PlainDialogs dialogs;
     PlainWindows windows;
     PlainClock clock;
+    PlainColours colours;
+    PlainPrinter printer;
 
 private:
     Platform before_;

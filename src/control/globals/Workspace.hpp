@@ -161,6 +161,12 @@ struct MadeUpProblems {
     std::deque<std::string> RecentExamples;  // topic and problem, the latest last
 };
 
+// The preview of what is to be printed. Life: while frmPrintPreview is open.
+struct PreviewPages {
+    Int16 PreviewPage;       // the page in view
+    Int16 PreviewPageCount;  // the last page
+};
+
 struct Workspace : ProblemIdentity,
                    TypedInput,
                    SyntaxState,
@@ -171,7 +177,8 @@ struct Workspace : ProblemIdentity,
                    Settings,
                    GraphHandOver,
                    PracticeTest,
-                   MadeUpProblems {
+                   MadeUpProblems,
+                   PreviewPages {
     // As the process starts.
     Workspace();
 };
