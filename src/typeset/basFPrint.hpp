@@ -5,7 +5,7 @@
 // colour on and off; every other character is a glyph. A fraction splits at its last "/" outside of
 // parentheses. A half of a fraction and a radicand hold at most 50 characters, a line at most 3000.
 //
-// One design serves four surfaces; what differs is a SurfaceOffsets record.
+// One design serves all surfaces; what differs is a SurfaceOffsets record.
 #pragma once
 
 #include "DrawingSurface.hpp"
@@ -23,22 +23,22 @@ struct Distance {
 };
 
 struct SurfaceOffsets {
-    int indentBlanks = 0;           // printed before the line
-    double indent = 0;              // added to CurrentX before the line
-    Distance moveDown;              // before a line; the result is the base line of the line
-    Distance moveDownFraction;      // the same for a line that holds a "/"
-    double breakAt = 0;             // a plain character that ends beyond it breaks the line
-    double breakX = 0;              // where the rest of a broken line begins
-    double breakDown = 0;           // and how far below
-    double pageFull = 0;            // a pen below it needs the next page
-    bool pageTestFirst = false;     // the page test comes before each plain character
-    double exponentSize = 0;        // points
-    bool exponentRelative = false;  // the size is the current one less `exponentSize`
-    Distance exponentRaise;         // by the size of the exponent
+    int indentBlanks = 0;        // printed before the line
+    double indent = 0;           // added to CurrentX before the line
+    Distance moveDown;           // before a line; the result is the base line of the line
+    Distance moveDownFraction;   // the same for a line that holds a "/"
+    double breakAt = 0;          // a plain character that ends beyond it breaks the line
+    double breakX = 0;           // where the rest of a broken line begins
+    double breakDown = 0;        // and how far below
+    double pageFull = 0;         // a pen below it needs the next page
+    bool pageTestFirst = false;  // the page test comes before each plain character
+    double exponentSize = 0;     // points
+    Distance exponentRaise;      // by the size of the exponent
     Distance numeratorRaise;
     Distance denominatorDrop;
     Distance radicalBarRaise;
     Distance radicalBarStart;
+    double signUp = 0;      // of an ordinary radical sign
     double tallSignUp = 0;  // before the upper part of a tall radical
     double tallSignRight = 0;
     double tallSignDown = 0;  // behind it
@@ -47,8 +47,7 @@ struct SurfaceOffsets {
 
 extern const SurfaceOffsets worksheetOffsets;
 extern const SurfaceOffsets explanationOffsets;
-extern const SurfaceOffsets printerOffsets;
-extern const SurfaceOffsets previewOffsets;
+extern const SurfaceOffsets printerOffsets;  // also of the print preview, which shows the same pages
 
 // The two distances at which a sheet of the worksheet begins.
 inline constexpr double sheetTopY = 81;
@@ -79,6 +78,7 @@ private:
     void construct(char mark, std::string_view text);
     void plain(char c);
     void breakLine();
+    void turnFullPage();
     void turnPage(bool afterBreak);
     void colour(char mark);
     void PrintExponent(std::string_view text);

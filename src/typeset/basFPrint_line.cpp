@@ -42,6 +42,7 @@ void MathLineRenderer::line(std::string_view s) {
         if (opensConstruct(c)) {
             const std::size_t end = s.find(c, i + 1);
             if (end == std::string_view::npos) raise(FaultNumber::Subscript);
+            turnFullPage();  // a line may hold nothing but a fraction
             construct(c, s.substr(i + 1, end - i - 1));
             surface_->CurrentY = baseline_;
             i = end + 1;
@@ -78,8 +79,7 @@ void MathLineRenderer::construct(char mark, std::string_view text) {
 
 void MathLineRenderer::plain(char c) {
     endsInFraction_ = false;
-    if (offsets_.pageTestFirst && baseline_ > offsets_.pageFull) turnPage(false);
-    surface_->CurrentY = baseline_;
+    turnFullPage();
     surface_->print(std::string_view(&c, 1));
     if (surface_->CurrentX > offsets_.breakAt) breakLine();
 }
@@ -92,6 +92,11 @@ void MathLineRenderer::breakLine() {
         turnPage(true);
         surface_->CurrentX = offsets_.breakX;
     }
+    surface_->CurrentY = baseline_;
+}
+
+void MathLineRenderer::turnFullPage() {
+    if (offsets_.pageTestFirst && baseline_ > offsets_.pageFull) turnPage(false);
     surface_->CurrentY = baseline_;
 }
 

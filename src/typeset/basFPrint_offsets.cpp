@@ -21,12 +21,12 @@ const SurfaceOffsets worksheetOffsets{
     .pageFull = 589,
     .pageTestFirst = false,
     .exponentSize = 8,
-    .exponentRelative = false,
     .exponentRaise = {0.2, 0},
     .numeratorRaise = {0.6, 0},
     .denominatorDrop = {1.7, 0},
     .radicalBarRaise = {1.5, 0},
     .radicalBarStart = {0.5, 0},
+    .signUp = 2,
     .tallSignUp = 9,
     .tallSignRight = 2,
     .tallSignDown = 16,
@@ -44,18 +44,21 @@ const SurfaceOffsets explanationOffsets{
     .pageFull = never,
     .pageTestFirst = false,
     .exponentSize = 8,
-    .exponentRelative = false,
     .exponentRaise = {0.2, 0},
     .numeratorRaise = {0.6, 0},
     .denominatorDrop = {1.7, 0},
     .radicalBarRaise = {1.5, 0},
     .radicalBarStart = {0.5, 0},
+    .signUp = 2,
     .tallSignUp = 9,
     .tallSignRight = 2,
     .tallSignDown = 16,
     .tallSignLeft = 14,
 };
 
+// For 12 points on portrait paper, where a unit across is about 0.9 and one down 1.6 of a letter's
+// units. Fractions and radicals follow the font, since explanations print at 10 points; the signs of
+// the radicals are put where their strokes meet.
 const SurfaceOffsets printerOffsets{
     .indentBlanks = 0,
     .indent = 12,
@@ -67,24 +70,16 @@ const SurfaceOffsets printerOffsets{
     .pageFull = 560,
     .pageTestFirst = true,
     .exponentSize = 8,
-    .exponentRelative = false,
     .exponentRaise = {0, 1},
-    .numeratorRaise = {0, 5},
-    .denominatorDrop = {0, 14},
-    .radicalBarRaise = {0, 12},
-    .radicalBarStart = {0, 6},
-    .tallSignUp = 7,
+    .numeratorRaise = {5.0 / 12, 0},
+    .denominatorDrop = {14.0 / 12, 0},
+    .radicalBarRaise = {1, 0},
+    .radicalBarStart = {0.5, 0},
+    .signUp = 1,
+    .tallSignUp = 4,
     .tallSignRight = 1,
-    .tallSignDown = 10,
-    .tallSignLeft = 14,
+    .tallSignDown = 7.4,
+    .tallSignLeft = 11.4,
 };
-
-// As the printer, but for the exponent, which is two points smaller than its surroundings.
-const SurfaceOffsets previewOffsets = [] {
-    SurfaceOffsets offsets = printerOffsets;
-    offsets.exponentSize = 2;
-    offsets.exponentRelative = true;
-    return offsets;
-}();
 
 }  // namespace ordwise

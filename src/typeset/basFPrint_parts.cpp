@@ -14,7 +14,6 @@ constexpr std::size_t longestPart = 50;
 
 // Where a radical sign of ordinary height stands.
 constexpr double signLeft = 2;
-constexpr double signUp = 2;
 
 // "a/(b/c)" -> "a", "(b/c)": the last "/" outside of parentheses; without one both are empty.
 std::pair<std::string_view, std::string_view> halvesOf(std::string_view text) {
@@ -55,7 +54,7 @@ std::string_view partAt(std::string_view text, std::size_t at) {
 void MathLineRenderer::PrintExponent(std::string_view text) {
     const double size = surface_->FontSize;
     const double y = surface_->CurrentY;
-    surface_->FontSize = offsets_.exponentRelative ? size - offsets_.exponentSize : offsets_.exponentSize;
+    surface_->FontSize = offsets_.exponentSize;
     surface_->CurrentY -= offsets_.exponentRaise.at(surface_->FontSize);
     surface_->print(text);
     surface_->FontSize = size;
@@ -150,7 +149,7 @@ void MathLineRenderer::PrintRadical(std::string_view text) {
         surface_->CurrentX -= offsets_.tallSignLeft;
     } else {
         surface_->CurrentX -= signLeft;
-        surface_->CurrentY -= signUp;
+        surface_->CurrentY -= offsets_.signUp;
     }
     surface_->print("~");
     surface_->CurrentX = barEnd;

@@ -1,4 +1,4 @@
-// What the explanation window, the printer and the preview do differently.
+// What the explanation window and the printer do differently.
 #include "Drawn.hpp"
 #include "GlyphMetrics.hpp"
 #include "basFPrint.hpp"
@@ -64,13 +64,6 @@ TEST_F(VariantsTest, ThePrinterCountsInUnitsOfThePage) {
     EXPECT_DOUBLE_EQ(run("~").x, 12 - 2);
 }
 
-TEST_F(VariantsTest, ThePreviewShrinksAnExponentByTwoPoints) {
-    surface.FontSize = 8;
-    draw(previewOffsets, "x^3^");
-    EXPECT_EQ(run("3").size, 6);
-    EXPECT_EQ(surface.FontSize, 8);
-}
-
 TEST_F(VariantsTest, ThePrinterBreaksAt765AndTurnsThePageBeforeACharacter) {
     surface.FontSize = 12;
     surface.CurrentX = 765 - 12 - textWidth(Face::Halvern, "a", 12) + 0.01;
@@ -90,6 +83,10 @@ TEST_F(VariantsTest, ThePrinterBreaksAt765AndTurnsThePageBeforeACharacter) {
     EXPECT_EQ(pages, 1);
     EXPECT_EQ(run("over").x, 12);
     EXPECT_EQ(run("over").y, 24);
+    surface.cls();
+    surface.CurrentY = 548.5;
+    draw(printerOffsets, "#1/2#");
+    EXPECT_EQ(pages, 2) << "a fraction alone on its line would run off the page";
 }
 
 }  // namespace
