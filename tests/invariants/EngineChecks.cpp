@@ -243,6 +243,7 @@ bool dividesByZero(const Solution& solution) {
 
 bool reachesLargeNumbers(const Solution& solution) {
     constexpr long half = 32768 / 2;
+    if (solution.last().find('E') != std::string::npos) return true;
     std::string digits;
     for (const char c : solution.last() + " ") {
         if (isDigit(c)) {
