@@ -32,6 +32,9 @@ void paintArt(QPainter& painter, std::string_view key, const QRectF& place) {
 }
 
 QPixmap artPixmap(std::string_view key, QSizeF size, double devicePixelRatio) {
+    // The desk of a large screen alone is past the limit that Qt starts with.
+    constexpr int cacheKilobytes = 128 * 1024;
+    if (QPixmapCache::cacheLimit() < cacheKilobytes) QPixmapCache::setCacheLimit(cacheKilobytes);
     const QSize pixels = (size * devicePixelRatio).toSize();
     const QString name = QStringLiteral("%1 %2x%3").arg(qstringOf(key)).arg(pixels.width()).arg(pixels.height());
     QPixmap pixmap;

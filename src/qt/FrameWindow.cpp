@@ -59,7 +59,7 @@ std::vector<MenuRow> fileMenu() {
 
 std::vector<MenuRow> toolsMenu() {
     return {{&frmMain.mnuSolve, mnuSolve_Click, Qt::Key_F5},
-            {&frmMain.mnuExample, nullptr, {}},
+            {&frmMain.mnuExample, mnuExample_Click, Qt::Key_F6},
             {&frmMain.mnuErase, mnuErase_Click, QKeySequence(Qt::CTRL | Qt::Key_Delete)},
             {},
             {&frmMain.mnuGraph, nullptr, {}},
@@ -98,7 +98,7 @@ bool isCheckable(const Control& menu) {
 const ToolRow toolRows[] = {{MainWindow::buttonNew, mnuNew_Click},     {MainWindow::buttonSave, nullptr},
                             {MainWindow::buttonOpen, nullptr},         {MainWindow::buttonPrint, nullptr},
                             {MainWindow::buttonPractice, nullptr},     {MainWindow::buttonGraph, nullptr},
-                            {MainWindow::buttonSolve, mnuSolve_Click}, {MainWindow::buttonExample, nullptr},
+                            {MainWindow::buttonSolve, mnuSolve_Click}, {MainWindow::buttonExample, mnuExample_Click},
                             {MainWindow::buttonClear, mnuErase_Click}, {MainWindow::buttonRoot, insertKey<'~'>},
                             {MainWindow::buttonPower, insertKey<'^'>}, {MainWindow::buttonFracdec, mnuConvertDF_Click},
                             {MainWindow::buttonWeb, nullptr}};

@@ -1,6 +1,6 @@
 #include "FrameCommands.hpp"
 
-#include "ChooserLogic.hpp"
+#include "Examples.hpp"
 #include "GuidedInput.hpp"
 #include "Platform.hpp"
 #include "SolveDriver.hpp"
@@ -28,6 +28,10 @@ void mnuNew_Click() {
 
 void mnuSolve_Click() {
     compute_Click();
+}
+
+void mnuExample_Click() {
+    example_Click();
 }
 
 void mnuErase_Click() {

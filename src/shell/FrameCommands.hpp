@@ -9,8 +9,9 @@ namespace ordwise {
 // New Problem: lets the student choose, and lays out a fresh worksheet unless the chooser was
 // cancelled.
 void mnuNew_Click();
-// Solve, Erase and Explanation of the worksheet.
+// Solve, Example, Erase and Explanation of the worksheet.
 void mnuSolve_Click();
+void mnuExample_Click();
 void mnuErase_Click();
 void mnuExp_Click();
 

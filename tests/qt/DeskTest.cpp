@@ -237,6 +237,17 @@ TEST_F(Desk, a_long_solution_goes_over_sheets_that_can_be_fetched_to_the_front) 
     EXPECT_GT(frmPaper.Paper[0].Left, left);
 }
 
+TEST_F(Desk, an_example_is_made_up_and_solved_on_the_desk) {
+    choose(QStringLiteral("area of a trap"));
+    frame->toolbarAction(MainWindow::buttonExample)->trigger();
+    EXPECT_FALSE(frame->desk().sheet(0).figure()->box(3).text().isEmpty());
+    EXPECT_TRUE(frame->desk().sheet(0).blinker().isVisible());
+    choose(QStringLiteral("solving"));
+    press(Qt::Key_F6);
+    EXPECT_NE(ws.ProblemText.find('='), std::string::npos) << ws.ProblemText;
+    EXPECT_GT(ws.StepCount, 2);
+}
+
 TEST_F(Desk, every_topic_opens_with_boxes_that_have_names_and_room) {
     for (const std::string_view topic : topicNames()) {
         const std::string trace(topic);
