@@ -67,7 +67,11 @@ void printStep(PageSurface& page, const std::string& line) {
 // An explanation at the top of a page would explain nothing: its step goes with it.
 void printExplainedStep(PageSurface& page, const std::string& line, const std::string& note) {
     constexpr double lastTop = 515;  // below it, the step finds room and its explanation none
-    if (page.CurrentY > lastTop && !line.empty()) page.NewPage();
+    constexpr double firstTop = 12;
+    if (page.CurrentY > lastTop && !line.empty()) {
+        page.NewPage();
+        page.CurrentY = firstTop;
+    }
     PrintLine(line, page, false);
     printExplanation(page, note);
 }
