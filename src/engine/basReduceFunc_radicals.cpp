@@ -239,9 +239,11 @@ void TakeAbsoluteValue(int depth, int group) {
     // A number beside the bars multiplies: written next to the value it would become a part of it.
     const bool factorBefore = !before.empty() && !IsOperator(before) && before != "(" && before != "=";
     const bool factorBehind = !after.empty() && after[0] >= '0' && after[0] <= '9';
-    ExplodeTokens(tokensText(0, record.openIndex - 1) + (factorBefore ? "*" : "") +
-                  unsignedText(monomialOf(termOf(depth, group, 1))) + (factorBehind ? "*" : "") +
-                  tokensText(record.closeIndex + 1, ws.TokenLast));
+    std::string front = tokensText(0, record.openIndex - 1);
+    // Where the bars are all there is, nobody writes a minus before their zero.
+    if (front == "-" && after.empty() && termOf(depth, group, 1).numerator == 0) front = "+";
+    ExplodeTokens(front + (factorBefore ? "*" : "") + unsignedText(monomialOf(termOf(depth, group, 1))) +
+                  (factorBehind ? "*" : "") + tokensText(record.closeIndex + 1, ws.TokenLast));
 }
 
 }  // namespace ordwise

@@ -49,8 +49,10 @@ bool simplifyGroup(int depth, int group) {
     if (freeOneGroup() || ExpandIfPowers(group)) return true;
     if (ws.GroupProduct[depth][group]) OrderPolynomial(group);
     if (!isGroup(depth, group) || ExpandPrefixPower(group)) return true;
+    // A reduction may free a group, and the ones behind it move up: they have not been looked at.
+    const int groups = ws.GroupTable[depth].lastGroup;
     ReduceExpression(group);
-    return ws.MaxDepth != depth;
+    return ws.MaxDepth != depth || ws.GroupTable[depth].lastGroup != groups;
 }
 
 bool workInside(int depth) {
