@@ -114,7 +114,7 @@ bool landed(int button) {
 
 FrameWindow::FrameWindow()
     : before_(platform), desk_(nullptr), scroll_(new QScrollArea(this)), status_(new StatusLine(this)) {
-    platform = Platform{&dialogs_, this, &clock_};
+    platform = Platform{&dialogs_, &windows_, &clock_};
     dialogs_.parent = this;
     dialogs_.beforeDialog = [this] { stage_.show(); };
     stage_.showChanges = [this] { showChanges(); };
@@ -278,17 +278,17 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
 }
 
-void FrameWindow::show(std::string_view name) {
+void FrameWindow::Windows::show(std::string_view name) {
     loadWindow(name);
-    if (name == "frmSelect") runChooser();
+    if (name == "frmSelect") frame_.runChooser();
     if (name == "frmPaper") {
-        sheetInView_ = 0;
-        stage_.show();
-        desk_->takeKeys();
+        frame_.sheetInView_ = 0;
+        frame_.stage_.show();
+        frame_.desk_->takeKeys();
     }
 }
 
-void FrameWindow::unload(std::string_view name) {
+void FrameWindow::Windows::unload(std::string_view name) {
     unloadWindow(name);
 }
 

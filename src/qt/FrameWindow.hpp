@@ -20,7 +20,7 @@ class ChooserDialog;
 class DeskView;
 class StatusLine;
 
-class FrameWindow : public QMainWindow, private WindowOpener {
+class FrameWindow : public QMainWindow {
 public:
     // Makes itself the platform of the process for as long as it lives.
     FrameWindow();
@@ -40,8 +40,16 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void show(std::string_view name) override;
-    void unload(std::string_view name) override;
+    // Opens and closes windows by the names that the logic gives them.
+    class Windows : public WindowOpener {
+    public:
+        explicit Windows(FrameWindow& frame) : frame_(frame) {}
+        void show(std::string_view name) override;
+        void unload(std::string_view name) override;
+
+    private:
+        FrameWindow& frame_;
+    };
 
     void addMenus();
     void addViewMenu();
@@ -54,6 +62,7 @@ private:
     Stage stage_;
     QtDialogs dialogs_;
     QtClock clock_;
+    Windows windows_{*this};
     Platform before_;
     DeskView* desk_;
     QScrollArea* scroll_;

@@ -100,6 +100,6 @@ int main(int argc, char** argv) {
 
     ordwise::startFreshProgram();
     ordwise::FrameWindow frame;
-    static_cast<QWidget&>(frame).show();
+    frame.show();
     return QApplication::exec();
 }

@@ -14,11 +14,10 @@ namespace ordwise::test {
 DeskTest::DeskTest() {
     startFreshProgram();
     frame = std::make_unique<FrameWindow>();
-    QWidget& window = *frame;
-    window.resize(1120, 930);
-    window.show();
-    window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    frame->resize(1120, 930);
+    frame->show();
+    frame->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(frame.get()));
 }
 
 DeskTest::~DeskTest() {
@@ -56,7 +55,7 @@ void DeskTest::choose(const QString& typed) {
 QWidget* DeskTest::focused() {
     if (QApplication::focusWidget() == nullptr) {
         frame->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(static_cast<QWidget*>(frame.get())));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(frame.get()));
     }
     return QApplication::focusWidget();
 }
