@@ -26,8 +26,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr int mostLetters = 3;
-
 bool solveEnabled() {
     return frmMain.mnuSolve.Enabled;
 }
@@ -212,10 +210,10 @@ Json answerSolve(const SolveRequest& request) {
 Json answerExample(const ExampleRequest& request) {
     PlainPlatform outside;
     openWorksheet(request.topic, request.settings);
-    seedDraws(request.seed);
     if (request.complex) ws.ComplexExamples = complexLevel;
+    seedExample(ws.ProblemType, ws.ComplexExamples, request.seed);
     // A polynomial is evaluated at values that are asked for, one a letter.
-    for (int letter = 0; letter < mostLetters; ++letter) outside.dialogs.answers.push_back(textOf(RandInt2to9()));
+    for (int letter = 0; letter < ws.EquationMode; ++letter) outside.dialogs.answers.push_back(textOf(RandInt2to9()));
     const Example example = example_Click();
     const bool run = !ws.InputOpen;
     Json answer = worksheetAnswer(Json::array(), run, run, outside);
@@ -225,8 +223,8 @@ Json answerExample(const ExampleRequest& request) {
 }
 
 std::uint64_t freshSeed() {
-    std::random_device source;
-    return source() % 1000000;
+    static std::uint64_t next = std::random_device()() % 1000000;
+    return next++;
 }
 
 bool wasSolved(const Json& answer) {

@@ -17,7 +17,7 @@
 namespace ordwise {
 
 // What is asked of a draw. `favoured` asks for the kind of problem that shows most where a topic has
-// two: a list with a mode, a fraction that can be simplified, a prime.
+// two: a list with a mode, a fraction that can be simplified, a composite number.
 struct ExampleWish {
     int type;
     bool complex;
@@ -31,9 +31,12 @@ struct ExampleWish {
 // e.g. 75 -> "17/5"
 [[nodiscard]] std::optional<Example> drawNumbers(const ExampleWish& wish);
 
+// A topic whose problems are typed operand by operand and follow no form. e.g. 101
+[[nodiscard]] bool isExpressionTopic(int type);
+
 // Types an expression or equation on an empty paper, without drawing it: the keys are then in
 // InputTokens. False if it is not worth solving, such as x+2=x+5, and wants to be drawn anew on an
-// empty paper. Types nothing for a topic that takes neither.
+// empty paper. Expects an expression topic.
 [[nodiscard]] bool typeExpression(const ExampleWish& wish);
 
 // A number of so many digits 1 to 9. e.g. 2 -> "47"

@@ -10,10 +10,12 @@
 #include "WorksheetLayout.hpp"
 
 #include <algorithm>
-#include <cstdlib>
+#include <optional>
 
 namespace ordwise {
 namespace {
+
+constexpr int similarTrianglesTopic = 11;
 
 using Boxes = std::array<std::string, 6>;
 
@@ -41,30 +43,14 @@ bool isRightTriangle(const Boxes& boxes) {
     return c == 0 || c > std::max(in(boxes, 4), in(boxes, 2));
 }
 
-// Of the sides of the second triangle in the boxes 4 (a2), 6 (b2) and 5 (c2) two are given. They
-// have one ratio to their partners 3, 2 and 1, not 1, and it needs no more than two decimals.
-bool areSimilarTriangles(const Boxes& boxes) {
-    constexpr std::size_t partners[][2] = {{4, 3}, {6, 2}, {5, 1}};
-    double ratio = 0;
-    for (const auto& [second, first] : partners) {
-        if (in(boxes, second) == 0) continue;
-        if (in(boxes, first) * 100 % in(boxes, second) != 0) return false;
-        const double next = static_cast<double>(in(boxes, first)) / in(boxes, second);
-        if (ratio != 0 && next != ratio) return false;
-        ratio = next;
-    }
-    return ratio != 1 && isTriangle(boxes);
+// A number of two digits times a higher power of ten is not written out as a line of zeros any more;
+// products and quotients are not written out at all.
+bool isWrittenOut(const Boxes& boxes) {
+    return in(boxes, 2) <= 13;
 }
 
-// A power of ten is written out as a line of zeros, and the line has an end.
-constexpr int highestPower = 19;
-
-bool isReadablePower(const Boxes& boxes) {
-    return in(boxes, 2) <= highestPower;
-}
-
-bool areReadablePowers(const Boxes& boxes) {
-    return in(boxes, 2) <= highestPower && in(boxes, 4) <= highestPower;
+bool areModestPowers(const Boxes& boxes) {
+    return in(boxes, 2) < 20 && in(boxes, 4) < 20;
 }
 
 struct BoxRow {
@@ -82,15 +68,15 @@ const BoxRow rows[] = {
     {{10},           "height = @3, a = @2, b = @1",                                                 anyNumbers},
     {{16, 18},       "diameter = @2",                                                               anyNumbers},
     {{19},           "a = @3, b = @2, c = @1",                                                      isTriangle},
-    {{11},           "Triangle 1: a = @3, b = @2, c = @1 - Triangle 2: a = @4, b = @6, c = @5",     areSimilarTriangles},
+    {{11},           "Triangle 1: a = @3, b = @2, c = @1 - Triangle 2: a = @4, b = @6, c = @5",     isTriangle},
     {{12},           "a = @4, b = @2, c = @1",                                                      isRightTriangle},
     {{14},           "amount = @1, N = @2, base = @4",                                              anyNumbers},
     {{21},           "work = @1, rate = @2, time = @4",                                             anyNumbers},
     {{22},           "distance = @1, speed = @2, time = @4",                                        anyNumbers},
     {{20},           "#@1/@2# = #@3/@4#",                                                           anyNumbers},
-    {{25},           "@1 * 10^@2^",                                                                 isReadablePower},
-    {{26},           "@1*10^@2^ * @3*10^@4^",                                                       areReadablePowers},
-    {{27},           "@1*10^@2^ { @3*10^@4^",                                                       areReadablePowers},
+    {{25},           "@1 * 10^@2^",                                                                 isWrittenOut},
+    {{26},           "@1*10^@2^ * @3*10^@4^",                                                       areModestPowers},
+    {{27},           "@1*10^@2^ { @3*10^@4^",                                                       areModestPowers},
     {{metersTopic, gramsTopic}, "@4",                                                               anyNumbers},
 };
 // clang-format on
@@ -103,15 +89,46 @@ const BoxRow& rowOf(int type) {
     return *row;
 }
 
+// Two triangles whose sides are the same three numbers, p times and q times. The ratio p/q of their
+// sides has no more than two decimals, and no side more digits than the level allows.
+std::optional<Boxes> similarTriangles(int digits) {
+    const int p = 1 + drawBelow(5);
+    const int q = 1 + drawBelow(5);
+    if (p == q || p * 100 % q != 0) return std::nullopt;
+    const auto fits = [&](const std::string& side) {
+        return static_cast<int>(side.size()) == digits && !contains(side, "0");
+    };
+    constexpr std::size_t partners[][2] = {{3, 4}, {2, 6}, {1, 5}};  // a1 and a2, b1 and b2, c1 and c2
+    Boxes boxes;
+    for (const auto& [first, second] : partners) {
+        const int side = longOf(drawDigits(digits));
+        boxes[first - 1] = textOf(side * p);
+        boxes[second - 1] = textOf(side * q);
+    }
+    if (!std::all_of(boxes.begin(), boxes.end(), fits)) return std::nullopt;
+    return boxes;
+}
+
+Boxes drawSix(int type, bool complex) {
+    const int digits = complex ? 2 : 1;
+    if (type == similarTrianglesTopic) {
+        std::optional<Boxes> triangles;
+        while (!triangles) triangles = similarTriangles(digits);
+        return *triangles;
+    }
+    Boxes drawn;
+    for (std::string& number : drawn) number = drawDigits(digits);
+    return drawn;
+}
+
 std::size_t numberOf(Control PaperWindow::*box) {
     constexpr Control PaperWindow::*boxes[] = {&PaperWindow::Text1, &PaperWindow::Text2, &PaperWindow::Text3,
                                                &PaperWindow::Text4, &PaperWindow::Text5, &PaperWindow::Text6};
     return static_cast<std::size_t>(std::find(std::begin(boxes), std::end(boxes), box) - std::begin(boxes)) + 1;
 }
 
-Boxes drawNumbersFor(const WorksheetLayout& layout, bool complex) {
-    Boxes drawn;
-    for (std::string& number : drawn) number = drawDigits(complex ? 2 : 1);
+Boxes drawBoxesOf(const WorksheetLayout& layout, const ExampleWish& wish) {
+    const Boxes drawn = drawSix(wish.type, wish.complex);
     Boxes boxes;
     for (const PlacedBox& placed : layout.boxes) {
         const std::size_t number = numberOf(placed.box);
@@ -149,7 +166,7 @@ Example drawBoxes(const ExampleWish& wish) {
     const BoxRow& row = rowOf(wish.type);
     Example example;
     do {
-        example.boxes = drawNumbersFor(*layout, wish.complex);
+        example.boxes = drawBoxesOf(*layout, wish);
     } while (!row.fits(example.boxes));
     example.line = filledIn(row.line, example.boxes);
     if (wish.type == metersTopic || wish.type == gramsTopic) drawUnits(unitsOf(wish.type), example);

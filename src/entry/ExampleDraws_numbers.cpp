@@ -104,9 +104,10 @@ std::string composite(const ExampleWish& wish) {
     return drawUntil([&] { return number(wish); }, [](const std::string& n) { return !isPrime(value(n)); });
 }
 
+// There are few primes of two digits, so they are the smaller part.
 std::string primeOrComposite(const ExampleWish& wish) {
     return drawUntil([&] { return number(wish); },
-                     [&](const std::string& n) { return isPrime(value(n)) == wish.favoured; });
+                     [&](const std::string& n) { return isPrime(value(n)) != wish.favoured; });
 }
 
 bool areDifferent(const List& numbers) {
@@ -169,6 +170,11 @@ std::string productForPrimes(const ExampleWish& wish) {
 std::string quantity(const ExampleWish& wish) {
     const int wholeDigits = wish.complex ? 2 : 1;
     return drawChance(1, 2) ? drawDigits(wholeDigits + 1) : drawDigits(wholeDigits) + "." + drawDigits(1);
+}
+
+// Of a small unit there must be many before they come to something in a large one. e.g. feet in miles
+std::string largeQuantity(const ExampleWish& wish) {
+    return drawDigits(4) + (wish.complex ? "." + drawDigits(1) : "");
 }
 
 std::string percent(const ExampleWish& wish) {
@@ -298,8 +304,8 @@ const NumberRow rows[] = {
     {{104}, angle},
     {{106}, twoPoints},
     {{107, 108}, point},
-    {{28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 39, 40, 41, 42, 43, 44, 45, 46, 47, 48, 49, 50, 51, 52, 53, 54,
-      109, 110, 111}, quantity},
+    {{28, 29, 30, 31, 32, 33, 34, 35, 36, 37, 38, 40, 42, 43, 44, 45, 47, 48, 50, 51, 53, 54, 109, 110}, quantity},
+    {{39, 41, 46, 49, 52, 111}, largeQuantity},
 };
 // clang-format on
 

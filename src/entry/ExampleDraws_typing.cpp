@@ -4,6 +4,7 @@
 // A key that the check refuses simply falls away, so that what stays is legal. What is tried is kept
 // to the size of school problems: numbers of one or two digits, powers below 1000, products of two.
 #include "ExampleDraws.hpp"
+#include "Fault.hpp"
 #include "GuidedInput.hpp"
 #include "NumberText.hpp"
 #include "RandomDraws.hpp"
@@ -138,17 +139,23 @@ void typePolynomialTerm(bool complex, bool first) {
     }
 }
 
-// e.g. "4xy", "8z^2"
+// Kept small, since every letter becomes a number. e.g. "4xy", "8z^2", and behind a star "6y"
 void typeTermOfLetters(bool, bool first) {
     if (!first && drawBelow(4) == 0) {
         typeQuietly(digits(1));
+        return;
+    }
+    if (lastKey() == "*") {
+        constexpr const char* names[] = {"x", "y", "z"};
+        typeQuietly(digits(1) + names[drawBelow(3)]);
         return;
     }
     std::string letters;
     for (const char* name : {"x", "y", "z"}) {
         if (drawBelow(2) == 0) letters += name;
     }
-    typeQuietly(digits(1) + (letters.empty() ? "x" : letters) + smallExponent());
+    if (letters.empty()) letters = "x";
+    typeQuietly(digits(1) + letters + (letters.size() == 1 ? smallExponent() : ""));
 }
 
 void typeLinearTerm(bool complex, bool first) {
@@ -221,6 +228,12 @@ const Family families[] = {
 };
 // clang-format on
 
+const Family* familyOf(int type) {
+    const auto family = std::find_if(std::begin(families), std::end(families),
+                                     [&](const Family& candidate) { return candidate.type == type; });
+    return family == std::end(families) ? nullptr : family;
+}
+
 bool isEquation(const Family& family) {
     return family.isWorthSolving == hasSolution || family.isWorthSolving == isSlopingLine;
 }
@@ -243,10 +256,13 @@ bool isFinished(const Family& family, int length) {
 
 }  // namespace
 
+bool isExpressionTopic(int type) {
+    return familyOf(type) != nullptr;
+}
+
 bool typeExpression(const ExampleWish& wish) {
-    const auto family = std::find_if(std::begin(families), std::end(families),
-                                     [&](const Family& candidate) { return candidate.type == wish.type; });
-    if (family == std::end(families)) return true;
+    const Family* family = familyOf(wish.type);
+    if (family == nullptr) raise(FaultNumber::Subscript);
     const int length = family->length + (wish.complex ? family->moreWhenComplex : 0);
     family->operand(wish.complex, /*first=*/true);
     while (!isFinished(*family, length)) {

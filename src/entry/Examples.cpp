@@ -25,8 +25,10 @@ namespace {
 constexpr std::size_t remembered = 49;
 // So many draws are made in search of one that is not remembered; of a topic that has but a few,
 // the draws go on only until it is not the one before.
-constexpr int patience = 200;
+constexpr int patience = 60;
 constexpr int patienceWithTheLast = 2000;
+
+constexpr int examplesInARow = 50;
 
 constexpr int negativeExponentsTopic = 150;
 
@@ -68,25 +70,31 @@ Example drawForm(const ExampleWish& wish) {
     return example;
 }
 
-// Whether what now stands on the paper is worth solving.
-bool putOnPaper(const ExampleWish& wish, const Example& example) {
-    emptyPaper();
-    return example.keys.empty() ? typeExpression(wish) : typeQuietly(example.keys);
+// Types the expression as it is drawn, until one is worth solving.
+Example drawExpression(const ExampleWish& wish) {
+    do {
+        emptyPaper();
+    } while (!typeExpression(wish));
+    Example example;
+    readFromPaper(example);
+    return example;
 }
 
 Example drawOnce(const ExampleWish& wish) {
     if (wish.type < firstPaperTopic) return drawBoxes(wish);
-    Example example;
-    do {
-        example = drawForm(wish);
-    } while (!putOnPaper(wish, example));
-    readFromPaper(example);
+    return isExpressionTopic(wish.type) ? drawExpression(wish) : drawForm(wish);
+}
+
+// A form has only its keys so far; the paper says how it looks.
+void completeLine(Example& example) {
+    if (!example.line.empty()) return;
     emptyPaper();
-    return example;
+    typeQuietly(example.keys);
+    readFromPaper(example);
 }
 
 std::string nameOf(int type, const Example& example) {
-    return textOf(type) + ":" + example.line + example.suffix;
+    return textOf(type) + ":" + (example.keys.empty() ? example.line : example.keys) + example.suffix;
 }
 
 bool isRecent(const std::string& name) {
@@ -110,6 +118,13 @@ Example drawExample(int type, int level) {
     for (int tries = 0; tries < patienceWithTheLast && isTheLast(nameOf(type, example)); ++tries)
         example = drawOnce(wish);
     remember(nameOf(type, example));
+    return example;
+}
+
+Example makeUp(int type, int level) {
+    Example example = drawExample(type, level);
+    completeLine(example);
+    if (type >= firstPaperTopic) emptyPaper();
     return example;
 }
 
@@ -154,7 +169,7 @@ std::string create_example(std::string_view pattern) {
 }
 
 Example GenerateExample(int type, bool forTest, int level) {
-    Example example = drawExample(type, level);
+    Example example = makeUp(type, level);
     if (forTest) {
         if (!example.suffix.empty()) ws.TestSuffix = example.suffix;
         ExampleChop(example.line, true);
@@ -163,6 +178,14 @@ Example GenerateExample(int type, bool forTest, int level) {
         ExampleChop(example.keys, false);
     }
     return example;
+}
+
+void seedExample(int type, int level, std::uint64_t seed) {
+    ws.RecentExamples.clear();
+    // There are so many expressions that hardly two are the same.
+    if (isExpressionTopic(type)) return seedDraws(seed);
+    seedDraws(seed / examplesInARow);
+    for (std::uint64_t before = seed % examplesInARow; before > 0; --before) (void)drawExample(type, level);
 }
 
 std::vector<RefusedKey> ExampleChop(std::string_view text, bool forTest) {

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -42,6 +43,10 @@ struct RefusedKey {
 // to ExampleChop: the line for a test, otherwise the keys, after the boxes and lists have been
 // filled. Returns what was made up. Leaves input and engine empty for a test.
 Example GenerateExample(int type, bool forTest, int level);
+
+// Seeds the draws for one example. Neighbouring seeds are the problems of one run, so that fifty of
+// them are as varied as fifty examples on the desk. Expects the topic to be chosen.
+void seedExample(int type, int level, std::uint64_t seed);
 
 // For a test: the numbered line goes to TestProblems. Otherwise types the text on the paper, a topic
 // of boxes has none, and solves the problem. A refused key ends the typing, and nothing is solved:
