@@ -59,6 +59,11 @@ void layStrip(GraphWindow& window) {
     put(window.Command2, left, below + buttonHeight + gap, listWidth, buttonHeight);
 }
 
+// So many pixels across, in coordinates of the graph.
+double pixels(const GraphWindow& window, double count) {
+    return count * (window.xMax - window.xMin) / (window.Width - 2);
+}
+
 void drawGrid(GraphWindow& window) {
     window.ForeColor = colourOfNumber(graphSettings.GraphGridColor);
     window.DrawWidth = 1;
@@ -80,9 +85,10 @@ void drawAxes(GraphWindow& window) {
     window.line(0, window.yMin, 0, window.yMax);
     const std::string rightmost = textOf(window.xMax);
     writeAt(window, window.xMin, 0, textOf(window.xMin));
-    writeAt(window, 0, 0, "0");
-    writeAt(window, 0, window.yMax, textOf(window.yMax));
-    writeAt(window, 0, window.yMin + window.TextHeight(), textOf(window.yMin));
+    const double beside = pixels(window, window.DrawWidth);  // clear of the axis itself
+    writeAt(window, beside, 0, "0");
+    writeAt(window, beside, window.yMax, textOf(window.yMax));
+    writeAt(window, beside, window.yMin + window.TextHeight(), textOf(window.yMin));
     writeAt(window, window.xMax - window.TextWidth(rightmost) - 0.02 * window.xMax, 0, rightmost);
 }
 
@@ -104,8 +110,7 @@ void writeQuadrants(GraphWindow& window) {
 void drawPoint(GraphWindow& window, double x, double y) {
     window.List1.List.push_back(coordinateLine(x, y));
     if (x < window.xMin || x > window.xMax || y < window.yMin || y > window.yMax) return;
-    const double pixel = (window.xMax - window.xMin) / window.Width;
-    window.circle(x, y, std::max(pointRadius, smallestRadius * pixel), true);
+    window.circle(x, y, std::max(pointRadius, pixels(window, smallestRadius)), true);
 }
 
 void drawSegment(GraphWindow& window, const Segment& segment) {

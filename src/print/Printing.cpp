@@ -76,9 +76,10 @@ void printExplainedStep(PageSurface& page, const std::string& line, const std::s
     printExplanation(page, note);
 }
 
+// Slot 0 holds no step: its note is the hint how to type a problem.
 void layOutSolution(PageSurface& page, bool withExplanations) {
     printHeading(page);
-    for (int i = 0; i <= lastPrintedStep(); ++i) {
+    for (int i = 1; i <= lastPrintedStep(); ++i) {
         if (withExplanations) {
             printExplainedStep(page, ws.StepLines[i], ws.StepNotes[i]);
         } else {
@@ -87,12 +88,12 @@ void layOutSolution(PageSurface& page, bool withExplanations) {
     }
 }
 
-// The problem as it was typed and, where there is more, as it was solved.
+// The problem and, where it was solved, the last line of its solution.
 void printProblem(PageSurface& page) {
-    const std::string typed = ImplodeCanon();
-    PrintLine(typed, page, false);
+    const std::string problem = ws.StepLines[1].empty() ? ImplodeCanon() : ws.StepLines[1];
+    PrintLine(problem, page, false);
     const std::string& solved = ws.StepLines[std::max(lastPrintedStep(), 0)];
-    if (ws.GraphKind != 1 && ws.GraphKind != 2 && !solved.empty() && solved != typed) PrintLine(solved, page, false);
+    if (!solved.empty() && solved != problem) PrintLine(solved, page, false);
 }
 
 // The window's picture drawn anew at the size of the page, so that it is as sharp as the paper.

@@ -99,8 +99,7 @@ TEST_F(GraphWindowTest, DrawsAPointAndListsIt) {
     EXPECT_TRUE(frmGraph.mnuGraphHighQuality.Enabled);
 
     for (int i = 0; i < 12; ++i) mnuGraphZoomOut_Click();
-    EXPECT_DOUBLE_EQ(std::get<Circle>(frmGraph.drawn().back()).radius, 2 * (frmGraph.Width - 2) / frmGraph.Width)
-        << "a point stays in sight";
+    EXPECT_DOUBLE_EQ(std::get<Circle>(frmGraph.drawn().back()).radius, 2) << "a point stays in sight";
 }
 
 TEST_F(GraphWindowTest, DrawsALineBetweenTwoPoints) {

@@ -64,8 +64,11 @@ TEST_F(PrintingTest, TheHeadingIsTheTopicAndTheDate) {
 TEST_F(PrintingTest, StepsStandAtTheIndentInHalvernFont) {
     ws.StepLines[1] = "x+3=12";
     ws.StepLines[2] = "x=9";
+    ws.StepNotes[0] = "Enter an equation.";
     ws.StepNotes[2] = "Subtract 3.";
     ws.StepCount = 3;
+    EXPECT_TRUE(printSolution(true));
+    for (const Glyphs& run : runsOf(job().pages[0])) EXPECT_NE(run.text, "Enter an equation.") << "no step's note";
     EXPECT_TRUE(printSolution(false));
     const Glyphs first = runOf(job().pages[0], "x+3=12");
     const Glyphs second = runOf(job().pages[0], "x=9");
@@ -226,6 +229,21 @@ TEST_F(PrintingTest, TheGraphIsAJobOfItsOwn) {
     }
     EXPECT_EQ(strokes, 2U * 41 + 2 + 1) << "grid, axes and the line";
     EXPECT_DOUBLE_EQ(frmGraph.Width, 8000.0 / 15) << "the window stays as it is";
+}
+
+TEST_F(PrintingTest, TheGraphStandsUnderItsProblemAndTheSolvedLine) {
+    ws.StepLines[1] = "x+y=3";
+    ws.StepLines[2] = "y=-x+3";
+    ws.StepCount = 3;
+    frmGraph_Load();
+    EXPECT_TRUE(PrintTheGraph());
+    const double problem = runOf(job().pages[0], "x+y=3").y;
+    const double line = runOf(job().pages[0], "y=-x+3").y;
+    EXPECT_LT(problem, line);
+    for (const DrawOperation& operation : job().pages[0]) {
+        const auto* stroke = std::get_if<Stroke>(&operation);
+        EXPECT_TRUE(stroke == nullptr || stroke->y1 > line);
+    }
 }
 
 TEST_F(PrintingTest, WithoutAGraphWindowThereIsNoGraphToPrint) {
