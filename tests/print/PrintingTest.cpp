@@ -31,8 +31,8 @@ protected:
 
     static void solved(int steps) {
         for (int i = 1; i <= steps; ++i) {
-            ws.StepLines[i] =
-                "#" + std::string(1, static_cast<char>('a' + i % 26)) + "/2#=x+" + std::string(i % 3, '1');
+            ws.StepLines[i] = "#" + std::string(1, static_cast<char>('a' + i % 26)) + "/2#=x+" +
+                              std::string(static_cast<std::size_t>(i % 3), '1');
             ws.StepNotes[i] = "Note about [" + std::string(1, static_cast<char>('a' + i % 26)) + "].";
         }
         ws.StepCount = steps + 1;
