@@ -24,7 +24,7 @@ namespace {
 constexpr int multiplePlaces = 4;
 constexpr double multipleTolerance = 0.00005;
 constexpr int longestSearch = 100'000'000;
-// The first search looks at this many denominators for each character of the value's text.
+// Denominators up to this many for each character of the value's text are small.
 constexpr int searchPerCharacter = 10;
 
 // A denominator and what the value times it rounds to.
@@ -40,32 +40,22 @@ struct CurrentForm {
 };
 
 // What x rounds to, if that is a whole number and not the 0 that every small x rounds to.
-std::optional<float> wholeMultiple(double x, float value) {
+std::optional<double> wholeMultiple(double x) {
     // Most multiples are nowhere near; only the near ones are judged on their digits.
-    const double slack = 2 * multipleTolerance + std::fabs(x) * 1e-7;
-    if (std::fabs(x - std::nearbyint(x)) > slack) return std::nullopt;
-    const float rounded = static_cast<float>(Round(x, multiplePlaces));
-    if (rounded != std::nearbyint(rounded) || (rounded == 0.0F && value != 0.0F)) return std::nullopt;
+    if (std::fabs(x - std::nearbyint(x)) > 2 * multipleTolerance) return std::nullopt;
+    const double rounded = Round(x, multiplePlaces);
+    if (rounded != std::nearbyint(rounded) || rounded == 0.0) return std::nullopt;
     return rounded;
 }
 
-// The first search: exact multiples, a few denominators. e.g. 0.75 -> 3/4
-std::optional<WrittenFraction> smallDenominator(float value, int limit) {
-    for (int i = 1; i <= limit; ++i) {
-        if (const auto found = wholeMultiple(static_cast<double>(value) * i, value)) return WrittenFraction{*found, i};
-    }
-    return std::nullopt;
-}
-
-// The second: multiples in single precision, any denominator. Multiples below 1 cannot hit, and
-// from there on one in about 20000 does. e.g. 0.01980198 -> 2/101
-std::optional<WrittenFraction> anyDenominator(float value) {
-    const double v = static_cast<double>(value);
-    const double first = std::floor((1 - 2 * multipleTolerance) / std::fabs(v));
+// The first denominator whose multiple is whole. The value is taken as it prints, so that a decimal
+// is itself: 8.11 has 811/100. Multiples below 1 cannot be whole, and from there on one in about
+// 20000 is, so the search is short. e.g. 0.75 -> 3/4, 0.01980198 -> 2/101
+std::optional<WrittenFraction> findFraction(double value) {
+    const double first = std::floor((1 - 2 * multipleTolerance) / std::fabs(value));
     if (!(first <= longestSearch)) return std::nullopt;
     for (int i = std::max(1, static_cast<int>(first)); i <= longestSearch; ++i) {
-        const float x = static_cast<float>(v * i);
-        if (const auto found = wholeMultiple(static_cast<double>(x), value)) return WrittenFraction{*found, i};
+        if (const auto found = wholeMultiple(value * i)) return WrittenFraction{static_cast<float>(*found), i};
     }
     return std::nullopt;
 }
@@ -83,16 +73,14 @@ std::string writtenText(const WrittenFraction& found, bool forceFraction) {
 std::string fractionOf(float value, int searchLimit, bool forceFraction, const std::optional<CurrentForm>& current) {
     const std::string shown = textOf(value);
     if (!contains(shown, ".") || contains(shown, "E+")) return roundedText(value) + (forceFraction ? "/1" : "");
+    const auto found = findFraction(lenientValueOf(shown));
+    if (!found) return roundedText(value);
+    // A small denominator that is no simpler than the caller's own form gives that form back.
     const int limit = searchLimit != 0 ? searchLimit : searchPerCharacter * static_cast<int>(shown.size());
-    if (const auto found = smallDenominator(value, limit)) {
-        // No simpler than the caller's own form. e.g. 1.5 written as 1/0.6666667 stays
-        if (current && std::fabs(found->numerator) > std::fabs(current->numerator) &&
-            !contains(textOf(current->numerator), "."))
-            return textOf(std::fabs(current->numerator)) + "/" + textOf(current->denominator);
-        return writtenText(*found, forceFraction);
-    }
-    if (const auto found = anyDenominator(value)) return writtenText(*found, forceFraction);
-    return roundedText(value);
+    if (current && found->denominator <= limit && std::fabs(found->numerator) > std::fabs(current->numerator) &&
+        !contains(textOf(current->numerator), "."))
+        return textOf(std::fabs(current->numerator)) + "/" + textOf(current->denominator);
+    return writtenText(*found, forceFraction);
 }
 
 std::string numberText(float value, int searchLimit, bool forceFraction, const std::optional<CurrentForm>& current) {

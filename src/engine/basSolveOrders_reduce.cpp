@@ -97,7 +97,9 @@ void ReduceExpression(int group, bool silent, bool stopFlag) {
     ws.ReductionStable = false;
     ws.StepClass = 2;
     std::string before;
-    for (int pass = 0; pass < passLimit && !ws.ReductionStable && before != ImplodeTokens(); ++pass) {
+    // A pass is the last one when it leaves the text as it was. A stable line alone is no end: the
+    // pre-pass may have recorded its step, and the pass behind it found nothing more to do.
+    for (int pass = 0; pass < passLimit && before != ImplodeTokens(); ++pass) {
         before = ImplodeTokens();
         reducePass(group, silent, stopFlag);
         if (!wantsFractionArithmetic(group)) continue;
