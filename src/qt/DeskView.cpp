@@ -20,12 +20,6 @@
 #include <cmath>
 
 namespace ordwise {
-namespace {
-
-constexpr double smallestScale = 0.4;
-constexpr double largestScale = 4;
-// A drag shorter than this, along and across, is a click.
-constexpr double clickSlack = 10;
 
 // A picture that is only looked at: presses go through it to what lies below.
 class StillPicture : public QWidget {
@@ -49,6 +43,13 @@ protected:
 private:
     std::string key_;
 };
+
+namespace {
+
+constexpr double smallestScale = 0.4;
+constexpr double largestScale = 4;
+// A drag shorter than this, along and across, is a click.
+constexpr double clickSlack = 10;
 
 void follow(QTimer& timer, const TimerControl& control, bool allowed) {
     const bool runs = control.Enabled && allowed;
@@ -176,8 +177,8 @@ void DeskView::showPictures() {
     signal.ToolTip = frmPaper.Wizard.ToolTip;
     if (steady_ && frmPaper.clickMe.Enabled) signal.Visible = frmPaper.Wizard.Visible;
     click_->showControl(signal, scale_, QStringLiteral("An explanation is offered"));
-    static_cast<StillPicture*>(pencil_)->showControl(shown(frmPaper.Pencil), scale_);
-    static_cast<StillPicture*>(deskPencil_)->showControl(shown(frmPaper.deskPencil), scale_);
+    pencil_->showControl(shown(frmPaper.Pencil), scale_);
+    deskPencil_->showControl(shown(frmPaper.deskPencil), scale_);
 }
 
 // Sheets by their order, then what lies on them: the pencil belongs to the first sheet, the light

@@ -15,6 +15,7 @@ class ExplanationPopup;
 class PictureButton;
 class SheetView;
 class Stage;
+class StillPicture;
 
 class DeskView : public QWidget {
 public:
@@ -69,8 +70,8 @@ private:
     PictureButton* light_;
     PictureButton* wizard_;
     PictureButton* click_;
-    QWidget* pencil_;
-    QWidget* deskPencil_;
+    StillPicture* pencil_;
+    StillPicture* deskPencil_;
     ExplanationPopup* explanation_;
     std::array<int, PaperWindow::lastSheet + 1> stacked_{};  // sheets from the lowest to the foremost
     QTimer blink_;

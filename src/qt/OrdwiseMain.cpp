@@ -7,15 +7,19 @@
 #include <QCommandLineParser>
 #include <QTextStream>
 
-#include <cstring>
+#include <algorithm>
+#include <iterator>
+#include <string_view>
 
 namespace {
 
-bool wantsExport(int argc, char** argv) {
-    for (int i = 1; i < argc; ++i) {
-        if (std::strncmp(argv[i], "--export", std::strlen("--export")) == 0) return true;
-    }
-    return false;
+// Pictures and words about the program need a painter and fonts, but no display.
+bool needsNoDisplay(int argc, char** argv) {
+    constexpr std::string_view words[] = {"--export", "--help", "-h", "--version", "-v"};
+    return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
+        const std::string_view name = argument.substr(0, argument.find('='));
+        return std::find(std::begin(words), std::end(words), name) != std::end(words);
+    });
 }
 
 // "2=3.5" -> 2, "3.5"; false without a number before the "=".
@@ -75,8 +79,7 @@ int exportFromCommandLine(const QCommandLineParser& parser) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // A picture needs fonts and a painter, but no display.
-    if (wantsExport(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (needsNoDisplay(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Ordwise"));
     QApplication::setOrganizationName(QStringLiteral("Halvern"));

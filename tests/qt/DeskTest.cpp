@@ -146,7 +146,7 @@ TEST_F(Desk, escape_in_the_chooser_keeps_the_old_problem) {
 }
 
 TEST_F(Desk, the_chooser_is_worked_without_a_mouse_and_with_one) {
-    atNextDialog([this](QWidget& dialog) {
+    atNextDialog([](QWidget& dialog) {
         auto& chooser = dynamic_cast<ChooserDialog&>(dialog);
         EXPECT_EQ(chooser.tabs().currentIndex(), 0);
         QTest::keyClicks(&chooser.searchBox(), QStringLiteral("Perimeter of a T"));
