@@ -82,6 +82,7 @@ DeskView::DeskView(QWidget* parent, Stage& stage)
     setObjectName(QStringLiteral("frmPaper"));
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setPalette(QPalette(QColor(0xef, 0xef, 0xef)));  // paper stays light, also on a dark desktop
     for (int number = 0; number <= PaperWindow::lastSheet; ++number)
         sheets_[static_cast<std::size_t>(number)] = new SheetView(this, stage, number);
     explanation_ = new ExplanationPopup(this, stage);

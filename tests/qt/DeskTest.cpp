@@ -14,6 +14,7 @@
 #include "basFPrint.hpp"
 
 #include <QAction>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
 #include <QTest>
@@ -313,6 +314,19 @@ TEST_F(Desk, zoom_makes_everything_larger_and_fits_again) {
     shoot("zoomed");
     press(Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(frame->desk().sheet(0).width(), sheet);
+}
+
+TEST_F(Desk, boxes_stay_light_on_a_dark_desktop) {
+    const QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(0x22, 0x22, 0x26)));
+    choose(QStringLiteral("area of a circle"));
+    type(QStringLiteral("4"));
+    const QPalette box = frame->desk().sheet(0).figure()->box(2).palette();
+    EXPECT_GT(box.color(QPalette::Base).lightness(), 200);
+    EXPECT_LT(box.color(QPalette::Text).lightness(), 60);
+    EXPECT_GT(frame->statusLine().palette().color(QPalette::WindowText).lightness(), 150) << "the frame follows";
+    shoot("dark");
+    QApplication::setPalette(before);
 }
 
 TEST_F(Desk, signals_blink_or_stand_still) {
