@@ -74,8 +74,10 @@ std::string rebuiltText(const TermPass& pass) {
         (pass.holdsVariable && piece.bin > 0 ? letters : rest) += pieceText(pass, piece);
     const std::string behind = termsNotReached(pass);
     std::string terms = pass.holdsVariable ? letters + behind + rest : rest + behind;
-    // What cancels leaves a 0, which is a term like any other.
+    // What cancels leaves a 0, which is a term like any other; in front it has no minus.
     if (terms.empty()) terms = "+0";
+    const bool minusZero = terms == "-0" || (terms.size() > 2 && terms.starts_with("-0") && IsSign(terms.substr(2, 1)));
+    if (minusZero) terms[0] = '+';
     const ExprGroup& group = groupOf(ws.MaxDepth, pass.group);
     return textBefore(group) + terms + textFrom(group);
 }

@@ -132,7 +132,7 @@ std::string addOrSubtract(const ExprTerm& term) {
     const TermNumbers numbers = valuesOf(term);
     const std::string size =
         namedTerm(std::fabs(numbers.above), numbers.below, isConstantPower(term) ? "" : letters, lettersBelow(term));
-    return term.numerator < 0 ? "Subtract " + size + " from " : "Add " + size + " and ";
+    return term.lead == "-" ? "Subtract " + size + " from " : "Add " + size + " and ";
 }
 
 // What two terms make. e.g. 5/6, "x" -> "#5x/6#"; 0 -> "0"

@@ -138,6 +138,7 @@ TEST(ReduceExpression, FillsWhatCancels) {
     startText(101, "x-x=5");
     ReduceExpression(0);
     EXPECT_EQ(ImplodeTokens(), "+0=+5");
+    EXPECT_EQ(solveText(91, "3-3-0").lines, (Lines{"3-3-0", "0"}));
     startText(121, "2(3-3)");
     ReduceExpression(0);
     EXPECT_EQ(ImplodeTokens(), "+2(+0)");
