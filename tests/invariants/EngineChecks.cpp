@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <optional>
 #include <set>
 
@@ -146,6 +148,94 @@ std::vector<std::string> splitAt(const std::string& text, char separator) {
     return pieces;
 }
 
+void append(Complaints& all, const Complaints& more) {
+    all.insert(all.end(), more.begin(), more.end());
+}
+
+// Whether the first line asks for something that does not exist.
+bool dividesByZero(const Solution& solution) {
+    if (solution.steps.empty()) return false;
+    const auto value = valueOfMarkup(solution.steps.front().line);
+    return value && !value->isDefined();
+}
+
+// Whether the solution had come to numbers whose sum may pass 16 bits, where fractions of one
+// denominator are documented to overflow.
+bool reachesLargeNumbers(const Solution& solution) {
+    constexpr long half = 32768 / 2;
+    if (solution.last().find('E') != std::string::npos) return true;
+    std::string digits;
+    for (const char c : solution.last() + " ") {
+        if (isDigit(c)) {
+            digits += c;
+            continue;
+        }
+        if (digits.size() > 9 || std::atol(digits.c_str()) >= half) return true;
+        digits.clear();
+    }
+    return false;
+}
+
+// A line by itself is the solution of a number or a fraction that was typed alone.
+bool isRestated(const Solution& solution) {
+    return solution.steps.size() == 1 && solution.typed.find_first_of("+-*^~|(", 1) == std::string::npos;
+}
+
+// The letters with the values that were answered for them.
+Bindings answered(const Solution& solution) {
+    Bindings bindings;
+    for (const auto& [letter, answer] : solution.answers) {
+        const bool minus = answer.front() == '-';
+        const auto value = ExactValue::ofDecimal(answer.substr(minus ? 1 : 0));
+        if (value) bindings[letter] = minus ? -*value : *value;
+    }
+    return bindings;
+}
+
+Complaints nothingMore(const Solution&) {
+    return {};
+}
+
+template <Check simplest>
+Complaints ofSum(const Problem& problem, const Solution& solution) {
+    return sumComplaints(problem, solution, simplest);
+}
+
+template <Check lines, Check last>
+Complaints ofLines(const Problem& problem, const Solution& solution) {
+    Complaints found = commonComplaints(problem, solution);
+    if (found.empty()) append(found, lines(solution));
+    if (found.empty()) append(found, last(solution));
+    return found;
+}
+
+struct TopicChecks {
+    const char* topic;
+    Complaints (*complaints)(const Problem&, const Solution&);
+};
+
+constexpr TopicChecks topicChecks[] = {
+    {"Arithmetic", ofSum<simplestNumberComplaints>},
+    {"Fraction Arithmetic", ofSum<simplestNumberComplaints>},
+    {"Calculating With Exponents", ofSum<simplestNumberComplaints>},
+    {"Complex Arithmetic Expressions", ofSum<simplestNumberComplaints>},
+    {"Absolute Values", ofSum<simplestNumberComplaints>},
+    {"Calculating Roots", ofSum<simplestRootComplaints>},
+    {"Exponential Notation", ofSum<primePowerComplaints>},
+    {"Simplifying Polynomials", ofSum<simplestPolynomialComplaints>},
+    {"Negative Exponents", ofSum<nothingMore>},
+    {"Solving Equations", ofLines<equationComplaints, solvedEquationComplaints>},
+    {"Arithmetic Principles", ofLines<equationComplaints, solvedEquationComplaints>},
+    {"Graphing A Linear Equation", ofLines<equationComplaints, nothingMore>},
+    {"Evaluating Polynomials", ofLines<evaluationComplaints, simplestNumberComplaints>},
+};
+
+const TopicChecks* rowOf(const std::string& topic) {
+    const auto row = std::find_if(std::begin(topicChecks), std::end(topicChecks),
+                                  [&](const TopicChecks& one) { return one.topic == topic; });
+    return row == std::end(topicChecks) ? nullptr : &*row;
+}
+
 }  // namespace
 
 Complaints valueComplaints(const Solution& solution, long double tolerance) {
@@ -177,9 +267,28 @@ Complaints equationComplaints(const Solution& solution) {
     return {};
 }
 
+Complaints evaluationComplaints(const Solution& solution) {
+    for (std::size_t i = 1; i < solution.steps.size(); ++i) {
+        const std::string& line = solution.steps[i].line;
+        const std::string& before = solution.steps[i - 1].line;
+        const auto wanted = valueOfMarkup(before, answered(solution));
+        const auto value = valueOfMarkup(line, answered(solution));
+        const long double tolerance = wanted && std::fabs(wanted->approximate()) > 9e5L ? singlePrecision : 0;
+        if (!wanted || !value || !same(*wanted, *value, tolerance)) {
+            return {{"a line is not equal to the line before", beside(before, line)}};
+        }
+    }
+    return {};
+}
+
 Complaints simplestNumberComplaints(const Solution& solution) {
     if (isSimplestNumber(solution.last())) return {};
     return {{"the last line is not a number in simplest form", solution.last()}};
+}
+
+Complaints decimalComplaints(const Solution& solution) {
+    if (solution.last().find_first_of("#*(") == std::string::npos) return {};
+    return {{"the last line is no decimal number", solution.last()}};
 }
 
 Complaints simplestRootComplaints(const Solution& solution) {
@@ -235,25 +344,33 @@ Complaints solvedEquationComplaints(const Solution& solution) {
     return {};
 }
 
-bool dividesByZero(const Solution& solution) {
-    if (solution.steps.empty()) return false;
-    const auto value = valueOfMarkup(solution.steps.front().line);
-    return value && !value->isDefined();
+Complaints sumComplaints(const Problem& problem, const Solution& solution, Check simplest, long double tolerance) {
+    if (dividesByZero(solution)) {
+        if (solution.messages == std::vector<std::string>{"Division by 0!"}) return {};
+        return {{"a division by zero passes", solution.last()}};
+    }
+    if (solution.messages == std::vector<std::string>{"Overflow!"} && reachesLargeNumbers(solution)) return {};
+    Complaints found = commonComplaints(problem, solution);
+    if (!solution.messages.empty() || solution.steps.empty()) return found;
+    append(found, valueComplaints(solution, tolerance));
+    if (!isRestated(solution)) append(found, simplest(solution));
+    return found;
 }
 
-bool reachesLargeNumbers(const Solution& solution) {
-    constexpr long half = 32768 / 2;
-    if (solution.last().find('E') != std::string::npos) return true;
-    std::string digits;
-    for (const char c : solution.last() + " ") {
-        if (isDigit(c)) {
-            digits += c;
-            continue;
-        }
-        if (digits.size() > 9 || std::atol(digits.c_str()) >= half) return true;
-        digits.clear();
-    }
-    return false;
+bool isEngineTopic(const std::string& topic) {
+    return rowOf(topic) != nullptr;
+}
+
+Complaints engineComplaints(const Problem& problem, const Solution& solution) {
+    return rowOf(problem.topic)->complaints(problem, solution);
+}
+
+bool isMathematics(const Solution& solution) {
+    if (!solution.canSolve || solution.steps.empty()) return false;
+    const std::string& line = solution.steps.front().line;
+    Bindings twos;
+    for (const char letter : lettersOf(line)) twos[letter] = ExactValue(2);
+    return valueOfMarkup(line, twos).has_value();
 }
 
 }  // namespace ordwise::test

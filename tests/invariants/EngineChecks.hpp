@@ -10,9 +10,13 @@ namespace ordwise::test {
 [[nodiscard]] Complaints valueComplaints(const Solution& solution, long double tolerance = 0);
 // Every line has the solutions of the line before.
 [[nodiscard]] Complaints equationComplaints(const Solution& solution);
+// Every line has the value of the line before where the letters have the values answered.
+[[nodiscard]] Complaints evaluationComplaints(const Solution& solution);
 
 // The last line is a number in simplest form: "5", "-#7/2#".
 [[nodiscard]] Complaints simplestNumberComplaints(const Solution& solution);
+// The last line is one decimal number.
+[[nodiscard]] Complaints decimalComplaints(const Solution& solution);
 // The last line is a sum of roots, each of another number without a square factor.
 [[nodiscard]] Complaints simplestRootComplaints(const Solution& solution);
 // The last line is a product of powers of different primes.
@@ -23,11 +27,19 @@ namespace ordwise::test {
 // The last line is "letter=number", an identity "c=c" or a contradiction "a$b".
 [[nodiscard]] Complaints solvedEquationComplaints(const Solution& solution);
 
-// Whether the first line asks for something that does not exist: a division by zero.
-[[nodiscard]] bool dividesByZero(const Solution& solution);
+using Check = Complaints (*)(const Solution&);
 
-// Whether the solution had come to numbers whose sum may pass 16 bits, where fractions of one
-// denominator are documented to overflow.
-[[nodiscard]] bool reachesLargeNumbers(const Solution& solution);
+// All that must hold for a simplified sum: the common complaints, every line equal to the line before,
+// and `simplest` of the last one. A typed division by zero ends in its message box, and so may numbers
+// past a documented limit.
+[[nodiscard]] Complaints sumComplaints(const Problem& problem, const Solution& solution, Check simplest,
+                                       long double tolerance = 0);
+
+// All that must hold for a solution of the topic that the problem names, in fractions mode.
+[[nodiscard]] bool isEngineTopic(const std::string& topic);
+[[nodiscard]] Complaints engineComplaints(const Problem& problem, const Solution& solution);
+
+// Whether the first line can be read as mathematics: what the keys let stand need not be, e.g. x^.
+[[nodiscard]] bool isMathematics(const Solution& solution);
 
 }  // namespace ordwise::test

@@ -49,6 +49,38 @@ void append(Complaints& all, Complaints more) {
     for (auto& one : more) all.push_back(std::move(one));
 }
 
+void readDialogs(const nlohmann::ordered_json& answer, Solution& solution) {
+    for (const auto& message : answer["messages"]) {
+        solution.messages.push_back(message["caption"].get<std::string>());
+    }
+    // "Enter a value for x"
+    for (const auto& prompt : answer["prompts"]) {
+        solution.answers[prompt["text"].get<std::string>().back()] = prompt["answer"].get<std::string>();
+    }
+}
+
+Solution solutionOf(const nlohmann::json& request) {
+    const auto begin = std::chrono::steady_clock::now();
+    const auto answer = answerRequest(request);
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
+    Solution solution;
+    solution.milliseconds = time.count();
+    if (answer.contains("error")) {
+        solution.error = answer["error"].get<std::string>();
+        return solution;
+    }
+    if (answer["typed"].is_string()) solution.typed = answer["typed"].get<std::string>();
+    solution.boxes = answer["boxes"].get<std::vector<std::string>>();
+    solution.canSolve = answer["canSolve"].get<bool>();
+    solution.graphed = !answer["graph"].is_null();
+    for (const auto& refusal : answer["refused"]) solution.refused.push_back(refusal["reason"].get<std::string>());
+    for (const auto& step : answer["steps"]) {
+        solution.steps.push_back({step["line"].get<std::string>(), step["note"].get<std::string>()});
+    }
+    readDialogs(answer, solution);
+    return solution;
+}
+
 }  // namespace
 
 std::string Problem::command() const {
@@ -63,31 +95,29 @@ std::string Problem::command() const {
     return out.str();
 }
 
+std::vector<std::string> allTopics() {
+    std::vector<std::string> names;
+    for (const auto& topic : answerTopics()) names.push_back(topic["name"].get<std::string>());
+    return names;
+}
+
 const std::string& Solution::last() const {
     static const std::string nothing;
     return steps.empty() ? nothing : steps.back().line;
 }
 
 Solution solve(const Problem& problem) {
-    const auto begin = std::chrono::steady_clock::now();
-    const auto answer = answerRequest(requestOf(problem));
-    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
-    Solution solution;
-    solution.milliseconds = time.count();
-    if (answer.contains("error")) {
-        solution.error = answer["error"].get<std::string>();
-        return solution;
+    return solutionOf(requestOf(problem));
+}
+
+Solution solveExample(Problem& problem, bool complex, int seed) {
+    const Solution solution = solutionOf(
+        {{"op", "example"}, {"topic", problem.topic}, {"complex", complex}, {"seed", static_cast<unsigned>(seed)}});
+    problem.typed = solution.typed;
+    for (std::size_t i = 0; i < solution.boxes.size(); ++i) {
+        if (!solution.boxes[i].empty()) problem.boxes[static_cast<int>(i) + 1] = solution.boxes[i];
     }
-    if (answer["typed"].is_string()) solution.typed = answer["typed"].get<std::string>();
-    solution.canSolve = answer["canSolve"].get<bool>();
-    for (const auto& refusal : answer["refused"]) solution.refused.push_back(refusal["reason"].get<std::string>());
-    for (const auto& message : answer["messages"]) {
-        solution.messages.push_back(message["caption"].get<std::string>());
-        solution.messageTexts.push_back(message["text"].get<std::string>());
-    }
-    for (const auto& step : answer["steps"]) {
-        solution.steps.push_back({step["line"].get<std::string>(), step["note"].get<std::string>()});
-    }
+    for (const auto& entry : solution.answers) problem.answers.push_back(entry.second);
     return solution;
 }
 
@@ -97,7 +127,7 @@ Complaints commonComplaints(const Problem& problem, const Solution& solution) {
     if (!solution.canSolve) return {{"Solve is not enabled", solution.typed}};
     Complaints found;
     for (const auto& caption : solution.messages) found.push_back({"message box: " + caption, ""});
-    if (solution.steps.empty() && found.empty()) found.push_back({"there is no step", ""});
+    if (solution.steps.empty() && !solution.graphed && found.empty()) found.push_back({"there is no step", ""});
     for (std::size_t i = 0; i < solution.steps.size(); ++i) {
         const Step& step = solution.steps[i];
         append(found, lineComplaints(step.line, "line"));

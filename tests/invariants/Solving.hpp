@@ -23,6 +23,8 @@ struct Problem {
     [[nodiscard]] std::string command() const;
 };
 
+[[nodiscard]] std::vector<std::string> allTopics();
+
 struct Step {
     std::string line;
     std::string note;
@@ -31,17 +33,21 @@ struct Step {
 struct Solution {
     std::string error;  // the request could not be read
     std::string typed;
+    std::vector<std::string> boxes;
     bool canSolve = false;
-    std::vector<std::string> refused;   // reasons
-    std::vector<std::string> messages;  // captions of the message boxes
-    std::vector<std::string> messageTexts;
-    std::vector<Step> steps;  // from the restated problem on
+    std::vector<std::string> refused;     // reasons
+    std::vector<std::string> messages;    // captions of the message boxes
+    std::vector<Step> steps;              // from the restated problem on
+    std::map<char, std::string> answers;  // by letter, to the questions for a value
+    bool graphed = false;                 // something was handed to the graph window
     double milliseconds = 0;
 
     [[nodiscard]] const std::string& last() const;  // the last line, "" where there is none
 };
 
 [[nodiscard]] Solution solve(const Problem& problem);
+// An example that the program makes up and solves; the problem is filled in with what it typed.
+[[nodiscard]] Solution solveExample(Problem& problem, bool complex, int seed);
 
 // What is wrong with a solution. `kind` gathers like complaints, `detail` tells this one.
 struct Complaint {

@@ -1,4 +1,5 @@
-// Every scripted topic against plain arithmetic, over random problems.
+// Every scripted topic against plain arithmetic, and the examples that the program makes up itself.
+#include "EngineChecks.hpp"
 #include "TopicProblems.hpp"
 
 #include <gtest/gtest.h>
@@ -8,27 +9,6 @@
 namespace ordwise::test {
 namespace {
 
-// Complaints that say no more than that the solve ended as it had to.
-void dropForeseen(Complaints& found, const Wanted& wanted) {
-    std::erase_if(found, [&](const Complaint& one) {
-        return !wanted.message.empty() && one.kind == "message box: " + wanted.message;
-    });
-}
-
-// A heading that explains itself stands without a note in these topics.
-bool mayStandWithoutNote(const Problem& problem, const Complaint& complaint) {
-    if (complaint.kind != "a note is empty") return false;
-    if (problem.topic == "Multiples") return complaint.detail.rfind("The first ten multiples", 0) == 0;
-    if (problem.topic != "Fraction To Mixed Notation") return false;
-    return complaint.detail.find("= 1") != std::string::npos || complaint.detail.find("equals 1") != std::string::npos;
-}
-
-// The mean of one number repeats its fraction: there is nothing to add.
-bool mayStandTwice(const Problem& problem, const Complaint& complaint) {
-    const bool oneNumber = problem.typed.find(',') == std::string::npos;
-    return complaint.kind == "a line stands twice" && oneNumber && complaint.detail.rfind("Average = ", 0) == 0;
-}
-
 TEST(TopicInvariant, EveryScriptedTopicGivesTheAnswerOfPlainArithmetic) {
     Survey book;
     for (const auto& generate : topicGenerators()) {
@@ -36,16 +16,27 @@ TEST(TopicInvariant, EveryScriptedTopicGivesTheAnswerOfPlainArithmetic) {
         for (int i = 0; i < 120; ++i) {
             const DrawnProblem drawn = generate(draws);
             const Solution solution = solve(drawn.problem);
-            Complaints found = commonComplaints(drawn.problem, solution);
-            dropForeseen(found, drawn.wanted);
-            std::erase_if(found, [&](const Complaint& one) {
-                return mayStandWithoutNote(drawn.problem, one) || mayStandTwice(drawn.problem, one);
-            });
+            Complaints found = scriptedComplaints(drawn.problem, solution, drawn.wanted.message);
             if (found.empty()) found = answerComplaints(drawn.wanted, solution);
             book.add(drawn.problem, solution, found);
         }
     }
     book.report("Scripted topics");
+}
+
+// The problems that the Example command makes up, of every topic and in both difficulties.
+TEST(ExampleInvariant, EveryExampleIsSolvedRightLineByLine) {
+    Survey book;
+    for (const auto& topic : allTopics()) {
+        for (int seed = 1; seed <= 60; ++seed) {
+            Problem problem{topic, ""};
+            const Solution solution = solveExample(problem, seed % 2 == 0, seed);
+            book.add(
+                problem, solution,
+                isEngineTopic(topic) ? engineComplaints(problem, solution) : scriptedComplaints(problem, solution));
+        }
+    }
+    book.report("Examples");
 }
 
 }  // namespace

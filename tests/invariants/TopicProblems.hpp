@@ -38,6 +38,11 @@ using TopicGenerator = std::function<DrawnProblem(Draws&)>;
 // The numbers in a line, in order. e.g. "b2 = -3.5" -> 2, -3.5
 [[nodiscard]] std::vector<double> numbersIn(const std::string& line);
 
+// The common complaints of a solution, less those that are as they should be: the message box that is
+// foreseen, a heading that needs no note, the mean of one number.
+[[nodiscard]] Complaints scriptedComplaints(const Problem& problem, const Solution& solution,
+                                            const std::string& foreseenMessage = "");
+
 // What is wrong with the last line of a solution.
 [[nodiscard]] Complaints answerComplaints(const Wanted& wanted, const Solution& solution);
 
