@@ -9,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -24,9 +23,6 @@ struct Solution {
     int fault = 0;
 
     [[nodiscard]] std::string last() const { return lines.empty() ? "" : lines.back(); }
-    [[nodiscard]] bool holds(const std::string& line) const {
-        return std::find(lines.begin(), lines.end(), line) != lines.end();
-    }
 };
 
 template <class Solver>
@@ -73,18 +69,6 @@ std::string answerOf(Solver solve, int roundPlaces = 2) {
     const Solution solution = solutionOf(solve, roundPlaces);
     expectSound(solution, solution.lines.empty() ? "nothing" : solution.lines[0]);
     return solution.last();
-}
-
-// The number between two pieces of a line, e.g. ("base = 2.5", "base = ", "") -> 2.5
-inline double numberIn(const std::string& line, const std::string& before, const std::string& after = "") {
-    const std::size_t start = before.empty() ? 0 : line.rfind(before);
-    if (start == std::string::npos || line.size() < after.size() ||
-        line.compare(line.size() - after.size(), after.size(), after) != 0) {
-        ADD_FAILURE() << "'" << line << "' has no number between '" << before << "' and '" << after << "'";
-        return 0;
-    }
-    const std::size_t from = start + before.size();
-    return std::stod(line.substr(from, line.size() - after.size() - from));
 }
 
 }  // namespace ordwise::test
