@@ -13,16 +13,6 @@ void commit(const std::string& text, const std::string& note, CommitOptions opti
     CommitStep(options);
 }
 
-TEST(CommitStep, RecordsANewLineWithNoteAndClass) {
-    startText(91, "2+3");
-    ws.StepClass = 3;
-    commit("+5", "Because.");
-    EXPECT_EQ(ws.StepLines[2], "5");
-    EXPECT_EQ(ws.StepNotes[2], "Because.");
-    EXPECT_EQ(ws.StepClassOf[2], 3);
-    EXPECT_FALSE(ws.ReductionStable);
-}
-
 TEST(CommitStep, RecordsNoLineTwice) {
     startText(91, "2+3");
     commit("+2+3", "Nothing new.");

@@ -57,20 +57,6 @@ TEST(RemoveParentheses, LeavesTokensAndStoreFitForTheNextRule) {
     EXPECT_EQ(ws.TokenBuffer[groupOf(1, 0).closeIndex + 2], "3");
 }
 
-TEST(DistributeFactor, MultipliesEachTermAndFreesTheGroup) {
-    const Rewrite cases[] = {
-        {"3(x+2)", "3x+6"},           {"-(x-2)", "-x+2"},    {"4-(x-2)", "4-x+2"},
-        {"-2x(x-3)", "-2x^2^+6x"},    {"x(x)", "x^2^"},      {"0(x+1)", "0+0"},
-        {"3(x/2+1)", "#3x/2#+3"},     {"5-3(2)*4", "5-6*4"}, {"x^2(x^3+1)", "x^5^+x^2^"},
-        {"x^-2(x+1)", "x^-1^+x^-2^"},
-    };
-    for (const Rewrite& one : cases) {
-        startText(102, one.before);
-        DistributeFactor(1, 0);
-        EXPECT_EQ(recorded().last(), one.after) << one.before;
-    }
-}
-
 TEST(DistributeFactor, SaysWhatMultipliesWhat) {
     const Rewrite cases[] = {
         {"3(x+2)", "Multiply the 3 by each one of the terms inside the parenthesis."},
@@ -118,14 +104,6 @@ TEST(ExpandPrefixPower, LetsOtherFactorsBe) {
     }
 }
 
-TEST(OrderPolynomial, TakesOneVisibleStepAProduct) {
-    startText(91, "2*3*4-5*2");
-    OrderPolynomial(0);
-    const std::vector<std::string> lines{"2*3*4-5*2", "6*4-5*2", "24-5*2", "24-10"};
-    EXPECT_EQ(recorded().lines, lines);
-    EXPECT_EQ(recorded().notes[2], "Multiply 6 by 4 using the order of operations.");
-}
-
 TEST(OrderPolynomial, ReadsFactorsOfEveryKind) {
     struct Product {
         const char* text;
@@ -157,30 +135,6 @@ TEST(OrderPolynomial, ReadsNumbersInENotationAboveABar) {
     CommitStep();
     OrderPolynomial(0);
     EXPECT_EQ(ImplodeTokens(), "+1.3E+14/9");
-}
-
-TEST(ProductPair, NamesTheFactorsAndLeavesTheCommitToItsCaller) {
-    startText(91, "2+3*4-5");
-    EXPECT_EQ(ProductPair(0, 0), "3,4");
-    EXPECT_EQ(ImplodeTokens(), "+2+12-5");
-    EXPECT_EQ(recorded().lines.size(), 1U);
-    startText(91, "2+3");
-    EXPECT_EQ(ProductPair(0, 0), "");
-}
-
-TEST(WrapFactorBehind, MakesAGroupOfTheFactorWithoutAStep) {
-    const Rewrite cases[] = {
-        {"(x+1)*3", "+(+x+1)(+3)"},
-        {"(x+1)*3x^2-1", "+(+x+1)(+3x^2)-1"},
-        {"(x+1)*3(x+2)", "+(+x+1)(+3)(+x+2)"},
-        {"(x+1)*x^-2*2", "+(+x+1)(+x^-2)*2"},
-    };
-    for (const Rewrite& one : cases) {
-        startText(102, one.before);
-        WrapFactorBehind(0);
-        EXPECT_EQ(ImplodeTokens(), one.after);
-        EXPECT_EQ(recorded().lines.size(), 1U);
-    }
 }
 
 }  // namespace

@@ -52,34 +52,6 @@ TEST(ParseExpression, ReadsATerm) {
     }
 }
 
-TEST(ParseExpression, KeepsTheFlagsOfAFractionBarUntilTheNumberBelow) {
-    parse("x/2");
-    EXPECT_FALSE(term(1).inDenominator);
-    EXPECT_FALSE(term(1).hasFractionBar);
-    EXPECT_EQ(term(1).quotient, 0.5F);
-    parse("3/x");
-    EXPECT_TRUE(term(1).inDenominator);
-    EXPECT_TRUE(term(1).hasFractionBar);
-}
-
-TEST(ParseExpression, PutsExponentsOneSlotBehindTheirLetter) {
-    parse("3x^2");
-    EXPECT_EQ(term(1).varName[1], "x");
-    EXPECT_EQ(term(1).varExp[2], 2.0F);
-    parse("8^2");
-    EXPECT_EQ(term(1).varExp[1], 2.0F);
-}
-
-TEST(ParseExpression, OpensATermAtAStar) {
-    parse("2*3+4");
-    EXPECT_EQ(ws.TermLast[0][0], 3);
-    EXPECT_EQ(term(2).lead, "*");
-    EXPECT_EQ(term(2).numerator, 3.0F);
-    EXPECT_TRUE(ws.GroupProduct[0][0]);
-    parse("2+3");
-    EXPECT_FALSE(ws.GroupProduct[0][0]);
-}
-
 TEST(ParseExpression, TakesTheFactorInFrontOutOfTheOuterGroup) {
     parse("-3x(2x+1)-4");
     EXPECT_EQ(ws.MaxDepth, 1);
@@ -94,14 +66,6 @@ TEST(ParseExpression, TakesTheFactorInFrontOutOfTheOuterGroup) {
     EXPECT_EQ(groupText(1, 0), "+2x+1");
     EXPECT_EQ(textBefore(group), "-3x(");
     EXPECT_EQ(textFrom(group), ")-4");
-}
-
-TEST(ParseExpression, ReadsTheSignOfAFractionInFront) {
-    parse("-x/2(x+1)");
-    EXPECT_EQ(groupOf(1, 0).prefixCoef, -0.5F);
-    EXPECT_EQ(groupOf(1, 0).prefixDenominator, 2.0F);
-    parse("-(x)");
-    EXPECT_EQ(groupOf(1, 0).prefixCoef, -1.0F);
 }
 
 TEST(ParseExpression, ChainsGroupsThatStandSideBySide) {
@@ -162,12 +126,6 @@ TEST(ParseExpression, CountsTheGroupsOfDeepLevelsAfresh) {
     EXPECT_EQ(ws.MaxDepth, 8);
     EXPECT_EQ(ws.GroupTable[8].lastGroup, 0);
     EXPECT_EQ(ws.TermLast[8][0], 3);
-}
-
-TEST(EquationText, WritesBothSidesAsSignedFractions) {
-    startText(105, "y=2x-1");
-    EXPECT_EQ(EquationText(), "+1/1y=+2/1x-1/1");
-    EXPECT_EQ(ws.CurrentSide, 1);
 }
 
 // --- limits

@@ -27,14 +27,6 @@ TEST(LetterParts, ReadOneCharacterOfAnExponent) {
     EXPECT_EQ(MultiplyLetterParts("x^12", "x"), "x^2");
 }
 
-TEST(LetterParts, MultiplyWhatStandsUnderRoots) {
-    startText(82, "~2*~8");
-    EXPECT_EQ(MultiplyLetterParts("~2", "~8"), "~16");
-    EXPECT_EQ(MultiplyLetterParts("~5", ""), "~5");
-    EXPECT_EQ(ws.CurrentNote,
-              "When multiplying square roots multiply values under radical to form the new square root.");
-}
-
 TEST(LowestForm, MovesNegativeExponentsBelowTheBarAndReducesTheNumber) {
     startText(150, "xy");
     EXPECT_EQ(NegativeExponentText("x^-2", 9, "", 6), "3/2x^2");
@@ -46,13 +38,6 @@ TEST(LowestForm, MovesNegativeExponentsBelowTheBarAndReducesTheNumber) {
     EXPECT_EQ(NegativeExponentText("x", 1, "x^-3", 1), "1x^4");
 }
 
-TEST(Monomials, AreWrittenWithTheBarBehindTheLetters) {
-    EXPECT_EQ(signedText({3, 4, "x", ""}), "+3x/4");
-    EXPECT_EQ(signedText({-3, 1, "x", "y"}), "-3x/1y");
-    EXPECT_EQ(signedText({0, 4, "x", ""}), "+0");
-    EXPECT_EQ(unsignedText({-2.5F, 1, "", ""}), "2.5");
-}
-
 TEST(Monomials, HaveTheirMarksClosedInANote) {
     EXPECT_EQ(markupOf("3x^2/4"), "#3x^2^/4#");
     EXPECT_EQ(markupOf("x^2y^-3"), "x^2^y^-3^");
@@ -62,31 +47,6 @@ TEST(Monomials, HaveTheirMarksClosedInANote) {
     EXPECT_EQ(markupOf("11x"), "11x");
     EXPECT_EQ(markupOf("1~3"), "~3~");
     EXPECT_EQ(markupOf("1"), "1");
-}
-
-TEST(Monomials, TellTheExponentOfTheNumberFromThatOfALetter) {
-    EXPECT_EQ(numberPowerOf("^3x").exponent, 3);
-    EXPECT_EQ(numberPowerOf("^3x").letters, "x");
-    EXPECT_EQ(numberPowerOf("^-2").exponent, -2);
-    EXPECT_EQ(numberPowerOf("x^3").exponent, 1);
-    EXPECT_EQ(numberPowerOf("x^3").letters, "x^3");
-}
-
-TEST(MultiplyGroups, PutsAllProductsSideBySide) {
-    const Rewrite cases[] = {
-        {"(x+1)(x+2)", "+(+1x^2+2x^1+1x^1+2)"},
-        {"(x-1)(x-2)", "+(+1x^2-2x^1-1x^1+2)"},
-        {"(3)(4)", "+(+12)"},
-        {"2(-3)(4)+1", "+2(-12)+1"},
-        {"(x)(0)", "+(+0)"},
-        {"(x+0)(3)", "+(+3x^1)"},
-        {"(x/2)(3/4)", "+(+3x^1/8)"},
-    };
-    for (const Rewrite& one : cases) {
-        startText(102, one.before);
-        MultiplyGroups(1, 0, 1);
-        EXPECT_EQ(ImplodeTokens(), one.after) << one.before;
-    }
 }
 
 TEST(MultiplyGroups, NamesWhatIsMultiplied) {

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace ordwise::test {
 namespace {
 
@@ -17,10 +15,6 @@ TEST(Roots, GiveUpTheirSquareFactors) {
         Lines lines;
     };
     const Root cases[] = {
-        {"~16", {"~16~", "4"}},
-        {"~12", {"~12~", "2~3~"}},
-        {"-~16", {"-~16~", "-4"}},
-        {"3~4", {"3~4~", "3*2", "6"}},
         {"2~50-~8", {"2~50~-~8~", "2*5~2~-~8~", "10~2~-~8~", "10~2~-2~2~"}},
         {"2*3~4", {"2*3~4~", "2*3*2", "2*6"}},
         {"~0", {"~0~", "0"}},
@@ -42,29 +36,9 @@ TEST(Roots, OfNothingAreMultipliedAway) {
     EXPECT_EQ(recorded().notes[1], "Multiply the 0 by the ~5~ using the order of operations.");
 }
 
-TEST(Roots, ThatAreSimplestStay) {
-    for (const char* text : {"~7", "3~5-2~6", "~4999"}) {
-        startText(82, text);
-        SimplifyRadicals();
-        EXPECT_EQ(recorded().lines.size(), 1U) << text;
-    }
-}
-
 TEST(Roots, WithAPrimeBeyondTheTableFault) {
     startText(82, "~200003*2");
     EXPECT_EQ(faultOf([] { SimplifyRadicals(); }), 9);
-}
-
-TEST(RadicalText, IsForTheRootsTopicOnly) {
-    startText(82, "~12");
-    EXPECT_EQ(RadicalText(std::sqrt(12.0F)), "2~3");
-    EXPECT_TRUE(ws.RadicalMode);
-    EXPECT_EQ(RadicalText(std::sqrt(7.0F)), "1~7");
-    EXPECT_EQ(RadicalText(4.0F), "4");
-    EXPECT_FALSE(ws.RadicalMode);
-    EXPECT_EQ(RadicalText(2.3F), "");
-    startText(91, "12");
-    EXPECT_EQ(RadicalText(std::sqrt(12.0F)), "");
 }
 
 TEST(PowersOfNumbers, AreWrittenOut) {
@@ -132,13 +106,6 @@ TEST(AbsoluteValue, DropsTheSignAndSaysWhy) {
         EXPECT_TRUE(AbsoluteValueStep(0)) << one.text;
         EXPECT_EQ(recorded().last(), one.line) << one.text;
         EXPECT_EQ(recorded().notes.back(), one.note);
-    }
-}
-
-TEST(AbsoluteValue, WaitsUntilOneNumberIsLeft) {
-    for (const char* text : {"|3-8|", "|-3^2|", "|2*3|", "(3)"}) {
-        startText(120, text);
-        EXPECT_FALSE(AbsoluteValueStep(0)) << text;
     }
 }
 

@@ -28,16 +28,6 @@ void write(const std::vector<std::string>& slots) {
     ws.TokenLast = static_cast<int>(slots.size());
 }
 
-TEST(ExplodeTokens, PutsACharacterASlotWithoutBlanks) {
-    ws = Workspace();
-    ExplodeTokens("a b");
-    EXPECT_EQ(ws.TokenBuffer[0], "a");
-    EXPECT_EQ(ws.TokenBuffer[1], "b");
-    EXPECT_EQ(ws.TokenLast, 3);
-    ExplodeTokens("+");
-    EXPECT_EQ(ImplodeTokens(), "+");
-}
-
 TEST(ExplodeTokens, CutsATextThatGrowsByMoreThanAHundred) {
     ws = Workspace();
     ExplodeTokens("+12");
@@ -118,32 +108,6 @@ TEST(NormaliseSigns, DoesNotWriteASecondOperator) {
     write({"3", "+", "-", "2"});
     NormaliseSigns();
     EXPECT_EQ(tokens(), "+ 3 + 2 2");
-}
-
-TEST(FindEquals, IsTheEndWithoutAnEqualsSign) {
-    write({"", "+", "x"});
-    EXPECT_EQ(FindEquals(), ws.TokenLast);
-    write({"", "+", "x", "=", "+", "3"});
-    EXPECT_EQ(FindEquals(), 3);
-}
-
-TEST(Variables, AreCollectedInOrderOfAppearance) {
-    startText(103, "4xy+9x*6y+8z^2");
-    EXPECT_EQ(ws.VarNames[1], "x");
-    EXPECT_EQ(ws.VarNames[2], "y");
-    EXPECT_EQ(ws.VarNames[3], "z");
-    EXPECT_EQ(ws.VarCount, 4);
-    EXPECT_EQ(FindVariable("z"), 3);
-    EXPECT_EQ(FindVariable("q"), 0);
-}
-
-TEST(CanonToTokens, LeavesTheMarksOfThePaperBehind) {
-    startText(102, "3/4+x^2");
-    EXPECT_EQ(tokens(), "+ 3/4 + x ^ 2");
-    startText(76, "1/2/3/4");
-    EXPECT_EQ(tokens(), "+ 1/2 / 3/4");
-    startText(82, "5~18-~8");
-    EXPECT_EQ(tokens(), "+ 5~18 - ~8");
 }
 
 TEST(CanonToTokens, RefusesATypedDivisionByZero) {
