@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <istream>
+#include <map>
 #include <ostream>
 #include <string>
 #include <utility>
@@ -57,6 +58,30 @@ void unmark(std::string& argument) {
     if (!argument.empty() && argument.front() == mark) argument.erase(0, 1);
 }
 
+void printOrDump(const Json& answer, bool json, std::ostream& out) {
+    if (json) {
+        out << dumped(answer) << '\n';
+    } else {
+        printSolution(answer, out);
+    }
+}
+
+// The status of a command that solves, with the sentence for what was not solved.
+int solvedStatus(const Json& answer, std::ostream& err) {
+    if (wasSolved(answer)) return exitDone;
+    err << "ordwise-cli: " << failureSentence(answer) << '\n';
+    return exitRefused;
+}
+
+std::map<std::string, std::string> settingsOf(const std::vector<std::string>& assignments) {
+    std::map<std::string, std::string> settings;
+    for (const std::string& setting : assignments) {
+        const auto [key, value] = assignment("--set", setting);
+        settings[key] = value;
+    }
+    return settings;
+}
+
 struct SolveOptions {
     SolveRequest request;
     std::vector<std::string> boxes;
@@ -76,23 +101,29 @@ void readAssignments(SolveOptions& options) {
         const auto [number, index] = assignment("--combo", combo);
         options.request.combos[numberOf("--combo", number)] = numberOf("--combo", index);
     }
-    for (const std::string& setting : options.settings) {
-        const auto [key, value] = assignment("--set", setting);
-        options.request.settings[key] = value;
-    }
+    options.request.settings = settingsOf(options.settings);
 }
 
 int runSolve(SolveOptions& options, std::ostream& out, std::ostream& err) {
     readAssignments(options);
     const Json answer = answerSolve(options.request);
-    if (options.json) {
-        out << dumped(answer) << '\n';
-    } else {
-        printSolution(answer, out);
-    }
-    if (wasSolved(answer)) return exitDone;
-    err << "ordwise-cli: " << failureSentence(answer) << '\n';
-    return exitRefused;
+    printOrDump(answer, options.json, out);
+    return solvedStatus(answer, err);
+}
+
+struct LoadOptions {
+    LoadRequest request;
+    std::vector<std::string> settings;
+    bool json = false;
+};
+
+int runLoad(LoadOptions& options, std::ostream& out, std::ostream& err) {
+    for (std::string& answer : options.request.answers) unmark(answer);
+    unmark(options.request.file);
+    options.request.settings = settingsOf(options.settings);
+    const Json answer = answerLoad(options.request);
+    printOrDump(answer, options.json, out);
+    return solvedStatus(answer, err);
 }
 
 struct ExampleOptions {
@@ -102,20 +133,11 @@ struct ExampleOptions {
 };
 
 int runExample(ExampleOptions& options, std::ostream& out, std::ostream& err) {
-    for (const std::string& setting : options.settings) {
-        const auto [key, value] = assignment("--set", setting);
-        options.request.settings[key] = value;
-    }
+    options.request.settings = settingsOf(options.settings);
     const Json answer = answerExample(options.request);
-    if (options.json) {
-        out << dumped(answer) << '\n';
-    } else {
-        printSolution(answer, out);
-        out << "--seed " << options.request.seed << " makes up this problem again.\n";
-    }
-    if (wasSolved(answer)) return exitDone;
-    err << "ordwise-cli: " << failureSentence(answer) << '\n';
-    return exitRefused;
+    printOrDump(answer, options.json, out);
+    if (!options.json) out << "--seed " << options.request.seed << " makes up this problem again.\n";
+    return solvedStatus(answer, err);
 }
 
 int runKeys(KeysRequest request, bool json, std::ostream& out) {
@@ -157,18 +179,28 @@ int runBatch(std::istream& in, std::ostream& out, std::ostream& err) {
     return status;
 }
 
+// An option that may be given again and again, each time with one value.
+void addRepeated(CLI::App& command, const std::string& name, std::vector<std::string>& values,
+                 const std::string& meaning) {
+    command.add_option(name, values, meaning)->expected(1)->take_all();
+}
+
 void addSolveOptions(CLI::App& command, SolveOptions& options) {
     command.add_option("TOPIC", options.request.topic, "Name of the topic, exactly")->required();
     command.add_option("PROBLEM", options.request.problem, "The problem, flat (3/4+x^2) or as the paper draws it");
-    command.add_option("--box", options.boxes, "N=TEXT fills TextN")->expected(1)->take_all();
-    command.add_option("--combo", options.combos, "N=INDEX selects in ComboN")->expected(1)->take_all();
-    command.add_option("--answer", options.request.answers, "Answer to the next question of the solve")
-        ->expected(1)
-        ->take_all();
-    command.add_option("--set", options.settings, "KEY=VALUE, a setting of the per-user store")
-        ->expected(1)
-        ->take_all();
+    addRepeated(command, "--box", options.boxes, "N=TEXT fills TextN");
+    addRepeated(command, "--combo", options.combos, "N=INDEX selects in ComboN");
+    addRepeated(command, "--answer", options.request.answers, "Answer to the next question of the solve");
+    addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
+    command.add_option("--save", options.request.saveTo, "Save the solved problem to this file");
     command.add_flag("--drop-refused", options.request.dropRefused, "Type on without the refused keys");
+    command.add_flag("--json", options.json, "One JSON object");
+}
+
+void addLoadOptions(CLI::App& command, LoadOptions& options) {
+    command.add_option("FILE", options.request.file, "A saved problem")->required();
+    addRepeated(command, "--answer", options.request.answers, "Answer to the next question of the solve");
+    addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
     command.add_flag("--json", options.json, "One JSON object");
 }
 
@@ -177,9 +209,7 @@ void addExampleOptions(CLI::App& command, ExampleOptions& options) {
     command.add_option("TOPIC", options.request.topic, "Name of the topic, exactly")->required();
     command.add_flag("--complex", options.request.complex, "A harder problem");
     command.add_option("--seed", options.request.seed, "The same number makes up the same problem");
-    command.add_option("--set", options.settings, "KEY=VALUE, a setting of the per-user store")
-        ->expected(1)
-        ->take_all();
+    addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
     command.add_flag("--json", options.json, "One JSON object");
 }
 
@@ -190,6 +220,7 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     app.require_subcommand(1);
     app.set_version_flag("--version", ORDWISE_VERSION);
     SolveOptions solve;
+    LoadOptions load;
     ExampleOptions example;
     KeysRequest keys;
     bool json = false;
@@ -208,6 +239,10 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     CLI::App* solveCommand = app.add_subcommand("solve", "Solve a problem");
     addSolveOptions(*solveCommand, solve);
     solveCommand->callback([&] { run = [&] { return runSolve(solve, out, err); }; });
+
+    CLI::App* loadCommand = app.add_subcommand("load", "Solve a saved problem");
+    addLoadOptions(*loadCommand, load);
+    loadCommand->callback([&] { run = [&] { return runLoad(load, out, err); }; });
 
     CLI::App* exampleCommand = app.add_subcommand("example", "Make up a problem and solve it");
     addExampleOptions(*exampleCommand, example);

@@ -1,6 +1,8 @@
 #include "Requests.hpp"
 
+#include "CanonicalRewrite.hpp"
 #include "Catalogue.hpp"
+#include "DiskFiles.hpp"
 #include "Examples.hpp"
 #include "FlatProblem.hpp"
 #include "FreshProgram.hpp"
@@ -9,15 +11,18 @@
 #include "NumberText.hpp"
 #include "PlainPlatform.hpp"
 #include "RandomDraws.hpp"
+#include "SavedProblems.hpp"
 #include "SettingsTable.hpp"
 #include "SolveDriver.hpp"
 #include "TextTools.hpp"
+#include "WindowRoutines.hpp"
 #include "Windows.hpp"
 #include "WorksheetBoxes.hpp"
 #include "WorksheetLayout.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 
+#include <optional>
 #include <random>
 #include <string>
 
@@ -175,6 +180,36 @@ Json worksheetAnswer(const Json& refused, bool canSolve, bool run, const PlainPl
                 {"graph", run ? graphHandedOver() : Json(nullptr)}};
 }
 
+// Runs what may solve a problem.
+template <class Solve>
+auto withAnswers(Solve solve) {
+    try {
+        return solve();
+    } catch (const NoAnswerLeft& question) {
+        throw AnswersUsedUp("The solve asks \"" + std::string(question.what()) +
+                            "\" and there is no answer left (--answer TEXT).");
+    }
+}
+
+void saveProblem(const std::string& file) {
+    const std::string trouble = DiskFiles().write(file, textOfProblem(problemOnDesk()));
+    if (!trouble.empty()) throw BadRequest(trouble);
+}
+
+SavedProblem problemInFile(const std::string& file) {
+    const std::optional<std::string> text = DiskFiles().read(file);
+    if (!text) throw BadRequest("\"" + file + "\" can't be read.");
+    const std::optional<SavedProblem> problem = problemOfText(*text);
+    if (!problem) throw BadRequest("\"" + file + "\" holds no problem of Ordwise.");
+    return *problem;
+}
+
+// The engine uses the cells of the rewrite for its own lines, so they are made again.
+std::string markupOfInput() {
+    GroupInput();
+    return RewriteAll();
+}
+
 }  // namespace
 
 Json answerSolve(const SolveRequest& request) {
@@ -193,17 +228,29 @@ Json answerSolve(const SolveRequest& request) {
     // As it stands before the run: a solve may rewrite boxes and engine text.
     Json answer = worksheetAnswer(refused, canSolve, false, outside);
     if (run) {
-        try {
-            compute_Click();
-        } catch (const NoAnswerLeft& question) {
-            throw AnswersUsedUp("The solve asks \"" + std::string(question.what()) +
-                                "\" and there is no answer left (--answer TEXT).");
-        }
+        withAnswers(compute_Click);
+        if (!request.saveTo.empty()) saveProblem(request.saveTo);
     }
     answer["steps"] = run ? stepsTaken() : Json::array();
     answer["messages"] = messagesShown(outside);
     answer["prompts"] = promptsShown(outside);
     answer["graph"] = run ? graphHandedOver() : Json(nullptr);
+    return answer;
+}
+
+Json answerLoad(const LoadRequest& request) {
+    PlainPlatform outside;
+    UnseenWindows windows;
+    platform.windows = &windows;
+    outside.dialogs.answers.assign(request.answers.begin(), request.answers.end());
+    startProgram(request.settings);
+    const SavedProblem problem = problemInFile(request.file);
+    Json refused = Json::array();
+    const std::vector<RefusedKey> keys = withAnswers([&] { return openProblem(problem); });
+    for (const RefusedKey& key : keys) refused.push_back(refusal(key.at, key.key, key.reason));
+    const bool run = !ws.InputOpen;
+    Json answer = worksheetAnswer(refused, run || solveEnabled(), run, outside);
+    answer["markup"] = markupOfInput();
     return answer;
 }
 
@@ -214,11 +261,10 @@ Json answerExample(const ExampleRequest& request) {
     seedExample(ws.ProblemType, ws.ComplexExamples, request.seed);
     // A polynomial is evaluated at values that are asked for, one a letter.
     for (int letter = 0; letter < ws.EquationMode; ++letter) outside.dialogs.answers.push_back(textOf(RandInt2to9()));
-    const Example example = example_Click();
+    example_Click();
     const bool run = !ws.InputOpen;
     Json answer = worksheetAnswer(Json::array(), run, run, outside);
-    // The engine has used the cells of the rewrite for its own lines since.
-    answer["markup"] = ws.ProblemType < firstPaperTopic ? "" : example.line;
+    answer["markup"] = markupOfInput();
     return answer;
 }
 

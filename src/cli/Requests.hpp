@@ -32,6 +32,13 @@ struct SolveRequest {
     std::vector<std::string> answers;             // to the input boxes, in order
     std::map<std::string, std::string> settings;  // by key of the per-user store
     bool dropRefused = false;                     // type on without the refused keys
+    std::string saveTo;                           // the file that the problem is saved to once solved
+};
+
+struct LoadRequest {
+    std::string file;
+    std::vector<std::string> answers;
+    std::map<std::string, std::string> settings;
 };
 
 struct KeysRequest {
@@ -50,8 +57,10 @@ struct ExampleRequest {
 [[nodiscard]] std::uint64_t freshSeed();
 
 // The answers as JSON objects, keys in the documented order. They throw BadRequest for an unknown
-// topic (naming the nearest ones), a box, combo or setting that there is not, and AnswersUsedUp.
+// topic (naming the nearest ones), a box, combo or setting that there is not and a file that cannot be
+// read or written, and AnswersUsedUp.
 [[nodiscard]] nlohmann::ordered_json answerSolve(const SolveRequest& request);
+[[nodiscard]] nlohmann::ordered_json answerLoad(const LoadRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerExample(const ExampleRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerKeys(const KeysRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerTopics();

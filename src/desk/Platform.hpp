@@ -43,6 +43,46 @@ public:
     [[nodiscard]] virtual int minuteAndSecond() const = 0;
     // Today's date in the form of the user's locale, e.g. "11/22/2026".
     [[nodiscard]] virtual std::string today() const = 0;
+    // The same for the name of a file, "mm-dd-yy". e.g. "03-14-02"
+    [[nodiscard]] virtual std::string todayForFile() const = 0;
+};
+
+// What a file dialog is opened with.
+struct FileQuestion {
+    std::string title;             // e.g. "Save Problem As"
+    std::string filter;            // description and pattern: "Ordwise files (.hvx)|*.hvx"
+    std::string defaultExtension;  // given to a name without one, e.g. "hvx"
+    std::string directory;         // where it starts
+    std::string proposedName;
+};
+
+// The file that the user has chosen; empty when the dialog was cancelled. Saving asks before an
+// existing file is taken, opening offers existing files only.
+class FileDialogs {
+public:
+    virtual ~FileDialogs() = default;
+    virtual std::optional<std::string> fileToSave(const FileQuestion& question) = 0;
+    virtual std::optional<std::string> fileToOpen(const FileQuestion& question) = 0;
+};
+
+// Files by their path, as bytes.
+class Files {
+public:
+    virtual ~Files() = default;
+    // The whole file; nothing for one that cannot be read, is no plain file or is far larger than
+    // anything that this program writes.
+    [[nodiscard]] virtual std::optional<std::string> read(const std::string& path) = 0;
+    // Writes the file so that it holds either its old content or all of the new one, whatever
+    // happens on the way. Empty when it went well, otherwise one sentence that says why not.
+    [[nodiscard]] virtual std::string write(const std::string& path, std::string_view bytes) = 0;
+    // The directory exists afterwards, with those above it, or the answer is false.
+    virtual bool createDirectory(const std::string& path) = 0;
+};
+
+// Where this user's files lie; an empty path where there is no place for them.
+struct UserFolders {
+    std::string settingsFile;
+    std::string savedProblems;
 };
 
 // A colour for the user to choose; empty when the dialog was cancelled.
@@ -88,6 +128,9 @@ struct Platform {
     Clock* clock = nullptr;
     ColourDialog* colours = nullptr;
     Printer* printer = nullptr;
+    Files* files = nullptr;
+    FileDialogs* fileDialogs = nullptr;
+    UserFolders folders;
 };
 
 extern Platform platform;

@@ -3,6 +3,7 @@
 #include "GraphWindow.hpp"
 #include "Platform.hpp"
 #include "PrintWindows.hpp"
+#include "StartWindows.hpp"
 
 namespace ordwise {
 
@@ -76,6 +77,8 @@ void ResetWindows() {
     graphSettings = GraphSettings{};
     frmPrintSetup = PrintSetupWindow{};
     frmPrintPreview = PrintPreviewWindow{};
+    frmLogo = LogoWindow{};
+    frmOptions = OptionsWindow{};
 }
 
 }  // namespace ordwise

@@ -199,6 +199,20 @@ std::vector<RefusedKey> ExampleChop(std::string_view text, bool forTest) {
     return refused;
 }
 
+std::optional<RefusedKey> firstRefusedKey(std::string_view text) {
+    emptyPaper();
+    std::optional<RefusedKey> refused;
+    int at = 0;
+    for (const std::string& key : characters(text)) {
+        ws.ExplainOverrideText.clear();
+        if (isControl(key) || !typeQuietly(key)) refused = RefusedKey{at, key, ws.ExplainOverrideText};
+        if (refused) break;
+        ++at;
+    }
+    emptyPaper();
+    return refused;
+}
+
 Example example_Click() {
     emptyPaper();
     ws.ProblemText.clear();

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,6 +57,10 @@ std::vector<RefusedKey> ExampleChop(std::string_view text, bool forTest);
 
 // The Example command: an empty sheet, a new problem on it, solved.
 Example example_Click();
+
+// The first key of a text that the paper of the topic would not take, tried undrawn. Input and engine
+// are empty afterwards. e.g. Arithmetic, "2+q" -> the "q" at 2
+[[nodiscard]] std::optional<RefusedKey> firstRefusedKey(std::string_view text);
 
 // Fills the boxes and selects in the lists of the worksheet as an example or a saved problem says.
 void fillWorksheet(const std::array<std::string, 6>& boxes, const std::array<int, 3>& combos);

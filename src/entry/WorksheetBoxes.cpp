@@ -20,14 +20,14 @@ double widthOf(std::string_view text) {
     return text.size() <= 3 ? boxWidth : static_cast<double>(text.size() - 3) * 12 + boxWidth;
 }
 
-bool holdsExponent(int number) {
-    return ws.ProblemType >= 25 && ws.ProblemType <= 27 && (number == 2 || number == 4);
+bool holdsExponent(int problemType, int number) {
+    return problemType >= 25 && problemType <= 27 && (number == 2 || number == 4);
 }
 
 // Why the key cannot be typed behind `text`; "" if it can.
-std::string refusalOf(int number, std::string_view text, std::string_view key) {
+std::string refusalOf(int problemType, int number, std::string_view text, std::string_view key) {
     if (key == "-" && !text.empty()) return "A minus sign (-) can only start a number.";
-    if (key == "." && holdsExponent(number)) return "An exponent can't have a decimal point.";
+    if (key == "." && holdsExponent(problemType, number)) return "An exponent can't have a decimal point.";
     if (key == "." && contains(text, ".")) return "A number can only have one decimal point.";
     const bool digit = key.size() == 1 && key[0] >= '0' && key[0] <= '9';
     if (!digit && key != "." && key != "-") return "The '" + std::string(key) + "' is not allowed in a box.";
@@ -48,7 +48,7 @@ bool Text_KeyPress(int number, std::string_view key) {
     if (key == backspaceKey) {
         if (!text.empty()) text.pop_back();
     } else {
-        std::string reason = refusalOf(number, text, key);
+        std::string reason = refusalOf(ws.ProblemType, number, text, key);
         if (!reason.empty()) return refuse(std::move(reason));
         text += key;
     }
@@ -62,6 +62,15 @@ bool typeIntoBox(int number, std::string_view text) {
     setBoxText(number, "");
     const std::vector<std::string> keys = characters(text);
     return std::all_of(keys.begin(), keys.end(), [&](const std::string& key) { return Text_KeyPress(number, key); });
+}
+
+bool isBoxText(int problemType, int number, std::string_view text) {
+    std::string typed;
+    for (const std::string& key : characters(text)) {
+        if (!refusalOf(problemType, number, typed, key).empty()) return false;
+        typed += key;
+    }
+    return true;
 }
 
 void setBoxText(int number, std::string text) {

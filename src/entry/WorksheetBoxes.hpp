@@ -19,6 +19,9 @@ bool Text_KeyPress(int number, std::string_view key);
 // a box that the topic does not show. e.g. typeIntoBox(1, "1x") -> false, the box holds "1"
 bool typeIntoBox(int number, std::string_view text);
 
+// Whether a text could have been typed into the box of this topic. e.g. (25, 2, "1.5") -> false
+[[nodiscard]] bool isBoxText(int problemType, int number, std::string_view text);
+
 // Puts text that needs no check into a box, as a saved problem or an example does.
 void setBoxText(int number, std::string text);
 

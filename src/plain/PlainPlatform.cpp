@@ -28,8 +28,36 @@ std::string PlainPrinter::print(const PrintJob& job) {
     return refusal;
 }
 
+std::optional<std::string> PlainFiles::read(const std::string& path) {
+    const auto found = contents.find(path);
+    if (found == contents.end()) return std::nullopt;
+    return found->second;
+}
+
+std::string PlainFiles::write(const std::string& path, std::string_view bytes) {
+    if (refusal.empty()) contents[path] = bytes;
+    return refusal;
+}
+
+bool PlainFiles::createDirectory(const std::string& path) {
+    directories.push_back(path);
+    return true;
+}
+
+std::optional<std::string> PlainFileDialogs::fileToSave(const FileQuestion& question) {
+    questions.push_back(question);
+    if (answers.empty()) return std::nullopt;
+    std::string answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+std::optional<std::string> PlainFileDialogs::fileToOpen(const FileQuestion& question) {
+    return fileToSave(question);
+}
+
 PlainPlatform::PlainPlatform() : before_(platform) {
-    platform = Platform{&dialogs, &windows, &clock, &colours, &printer};
+    platform = Platform{&dialogs, &windows, &clock, &colours, &printer, &files, &fileDialogs, {}};
 }
 
 PlainPlatform::~PlainPlatform() {

@@ -5,6 +5,7 @@
 #include "Platform.hpp"
 
 #include <deque>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -57,7 +58,10 @@ public:
     std::string date;
 
     [[nodiscard]] int minuteAndSecond() const override { return mmss; }
+    std::string fileDate;
+
     [[nodiscard]] std::string today() const override { return date; }
+    [[nodiscard]] std::string todayForFile() const override { return fileDate; }
 };
 
 // Answers with the next colour of a list, and cancels when there is none left.
@@ -84,6 +88,28 @@ public:
     void setup() override { ++setups; }
 };
 
+// Files in memory. Writing is refused with a sentence when one is set.
+class PlainFiles : public Files {
+public:
+    std::map<std::string, std::string> contents;  // by path
+    std::vector<std::string> directories;
+    std::string refusal;
+
+    [[nodiscard]] std::optional<std::string> read(const std::string& path) override;
+    [[nodiscard]] std::string write(const std::string& path, std::string_view bytes) override;
+    bool createDirectory(const std::string& path) override;
+};
+
+// Answers with the next path of a list, and cancels when there is none left.
+class PlainFileDialogs : public FileDialogs {
+public:
+    std::deque<std::string> answers;
+    std::vector<FileQuestion> questions;
+
+    std::optional<std::string> fileToSave(const FileQuestion& question) override;
+    std::optional<std::string> fileToOpen(const FileQuestion& question) override;
+};
+
 // All together; makes itself the platform of the process for as long as it lives.
 class PlainPlatform {
 public:
@@ -97,6 +123,8 @@ public:
     PlainClock clock;
     PlainColours colours;
     PlainPrinter printer;
+    PlainFiles files;
+    PlainFileDialogs fileDialogs;
 
 private:
     Platform before_;

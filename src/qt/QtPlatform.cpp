@@ -35,4 +35,8 @@ std::string QtClock::today() const {
     return locale.toString(QDate::currentDate(), format).toStdString();
 }
 
+std::string QtClock::todayForFile() const {
+    return QDate::currentDate().toString(QStringLiteral("MM-dd-yy")).toStdString();
+}
+
 }  // namespace ordwise

@@ -4,6 +4,8 @@
 #include "ChooserWindow.hpp"
 #include "ExplainWindow.hpp"
 #include "ExplanationWindow.hpp"
+#include "OptionsLogic.hpp"
+#include "StartStop.hpp"
 #include "Windows.hpp"
 #include "WorksheetLayout.hpp"
 
@@ -18,7 +20,7 @@ struct WindowRow {
     void (*unload)();
 };
 
-constexpr std::array<WindowRow, 3> windowRows{{
+constexpr std::array<WindowRow, 5> windowRows{{
     {"frmPaper", [] { Form_Load(); },
      [] {
          if (frmPaper.Loaded) Form_Unload();
@@ -37,6 +39,8 @@ constexpr std::array<WindowRow, 3> windowRows{{
          ShowExplanation();
      },
      [] { frmExplain.Loaded = false; }},
+    {"frmLogo", [] { Logo_Load(); }, [] { Logo_Unload(); }},
+    {"frmOptions", [] { Options_Load(); }, [] { Options_Unload(); }},
 }};
 
 }  // namespace

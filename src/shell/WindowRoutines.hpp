@@ -2,6 +2,8 @@
 // the platform calls these before it shows the window and when it takes it away.
 #pragma once
 
+#include "Platform.hpp"
+
 #include <string_view>
 
 namespace ordwise {
@@ -10,5 +12,13 @@ namespace ordwise {
 void loadWindow(std::string_view name);
 // Runs the window's own farewell; nothing for a window that is not open.
 void unloadWindow(std::string_view name);
+
+// Windows that nobody sees: opening one runs its routine and closing it its farewell. Where there is no
+// screen a worksheet is laid out by these.
+class UnseenWindows : public WindowOpener {
+public:
+    void show(std::string_view name) override { loadWindow(name); }
+    void unload(std::string_view name) override { unloadWindow(name); }
+};
 
 }  // namespace ordwise

@@ -1,0 +1,38 @@
+// frmLogo, the splash of the start, and frmOptions, the settings, as plain data.
+#pragma once
+
+#include "Windows.hpp"
+
+#include <string>
+
+namespace ordwise {
+
+struct LogoWindow {
+    bool Loaded = false;
+    TimerControl logotime{false, 2000};  // until the splash goes
+};
+
+struct OptionsWindow {
+    bool Loaded = false;
+    std::string Caption = "Settings";
+    Control Label1;  // "Choose Assistant Wiz:"
+    // The pictures of the three assistants; the one with the selection mark is Checked.
+    Control Wizard1, Wizard2, Wizard3;
+    Control Check3;       // "Complex Examples"
+    Control Check2;       // "Click Notification Enabled"
+    Control Label2;       // "Step-by-Step Detail:"
+    ComboControl Combo2;  // "High", "Medium", "Low"
+    Control Label3;       // "Number of digits after decimal to round numbers:"
+    ComboControl Combo1;  // " 1" to " 5"
+    Control Command1;     // "OK"
+    Control Command2;     // "Cancel"
+
+    OptionsWindow();
+    // Wizard1 to Wizard3 by number; fault 9 for a number outside.
+    [[nodiscard]] Control& wizard(int number);
+};
+
+extern LogoWindow frmLogo;
+extern OptionsWindow frmOptions;
+
+}  // namespace ordwise

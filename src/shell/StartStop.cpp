@@ -1,0 +1,59 @@
+#include "StartStop.hpp"
+
+#include "ChooserLogic.hpp"
+#include "Platform.hpp"
+#include "SavedProblems.hpp"
+#include "SettingsFile.hpp"
+#include "StartWindows.hpp"
+#include "TextTools.hpp"
+#include "Windows.hpp"
+#include "Workspace.hpp"
+
+namespace ordwise {
+namespace {
+
+// The button shows the form in which results will come.
+void showFractionButton() {
+    frmMain.Toolbar1[MainWindow::buttonFracdec].Image = ws.UseFractions ? "fracdec" : "fracdec2";
+}
+
+void loadFrame(std::string_view commandLine) {
+    ws.OpenedFilePath = trimmed(commandLine);
+    showFractionButton();
+    const std::string& directory = platform.folders.savedProblems;
+    if (!directory.empty()) platform.files->createDirectory(directory);
+    if (!ws.OpenedFilePath.empty()) mnuLoad_Click();
+}
+
+}  // namespace
+
+void startUp(std::string_view commandLine) {
+    ws.NormalPointer = frmMain.MousePointer;
+    platform.windows->show("frmLogo");
+    loadFrame(commandLine);
+}
+
+void Logo_Load() {
+    ws.StepCount = 1;
+    readSettings();
+    BuildTopicTree(true);
+    frmLogo.logotime.Enabled = true;
+    frmLogo.Loaded = true;
+}
+
+void logotime_Timer() {
+    frmLogo.logotime.Enabled = false;
+    platform.windows->unload("frmLogo");
+}
+
+void Logo_Unload() {
+    frmLogo.Loaded = false;
+}
+
+void shutDown() {
+    platform.windows->unload("frmGraph");
+    const std::string trouble = writeSettings();
+    if (!trouble.empty()) frmMain.StatusText = trouble;
+}
+
+}  // namespace ordwise

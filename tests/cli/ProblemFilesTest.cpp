@@ -1,0 +1,73 @@
+// Examples, saved problems and practice tests from outside.
+#include "Process.hpp"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <fstream>
+
+#include <unistd.h>
+
+namespace ordwise::test {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+
+Outcome cli(std::vector<std::string> arguments, const std::string& input = "") {
+    arguments.insert(arguments.begin(), ORDWISE_CLI);
+    return run(arguments, input);
+}
+
+std::string temporary(const std::string& name) {
+    return (fs::temp_directory_path() / ("ordwise-" + std::to_string(::getpid()) + "-" + name)).string();
+}
+
+TEST(ProblemFiles, LoadWhatSolveHasSaved) {
+    const std::string file = temporary("a.hvx");
+    const Outcome solved = cli({"solve", "Solving Equations", "x+3=12", "--save", file, "--json"});
+    EXPECT_EQ(solved.status, 0) << solved.err;
+    const Outcome loaded = cli({"load", file, "--json"});
+    EXPECT_EQ(loaded.status, 0) << loaded.err;
+    EXPECT_EQ(json::parse(loaded.out), json::parse(solved.out));
+    const Outcome shown = cli({"load", file});
+    EXPECT_NE(shown.out.find("x=9"), std::string::npos) << shown.out;
+    fs::remove(file);
+}
+
+TEST(ProblemFiles, AreRefusedWithASentence) {
+    const std::string file = temporary("b.hvx");
+    EXPECT_EQ(cli({"load", file}).err, "ordwise-cli: \"" + file + "\" can't be read.\n");
+    std::ofstream(file) << "no problem\n";
+    EXPECT_EQ(cli({"load", file}).err, "ordwise-cli: \"" + file + "\" holds no problem of Ordwise.\n");
+    EXPECT_EQ(cli({"load", file}).status, 2);
+    std::ofstream(file) << "Arithmetic BB 2+q BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 91\r\n";
+    const Outcome refused = cli({"load", file, "--json"});
+    EXPECT_EQ(refused.status, 1);
+    const json answer = json::parse(refused.out);
+    EXPECT_EQ(answer.at("refused").at(0).at("at"), 2);
+    EXPECT_EQ(answer.at("steps"), json::array());
+    fs::remove(file);
+    EXPECT_EQ(cli({"solve", "Arithmetic", "2+3", "--save", temporary("none/a.hvx")}).status, 2);
+}
+
+TEST(Examples, AreTheSameForTheSameSeedOnTheLineAndInABatch) {
+    const Outcome first = cli({"example", "Solving Equations", "--complex", "--seed", "7", "--json"});
+    EXPECT_EQ(first.status, 0) << first.err;
+    const Outcome batch =
+        cli({"batch"}, R"({"op": "example", "topic": "Solving Equations", "complex": true, "seed": 7})"
+                       "\n");
+    EXPECT_EQ(json::parse(first.out), json::parse(batch.out));
+    const json answer = json::parse(first.out);
+    EXPECT_GE(answer.at("typed").get<std::string>().size(), 13U);
+    EXPECT_EQ(answer.at("steps").at(0).at("line"), answer.at("markup"));
+    EXPECT_NE(cli({"example", "Solving Equations"}).out.find("makes up this problem again."), std::string::npos);
+    EXPECT_EQ(cli({"batch"}, R"({"op": "example", "topic": "Ratios", "seed": -1})"
+                             "\n")
+                  .out,
+              "{\"error\":\"\\\"seed\\\" must be a whole number from 0 on.\"}\n");
+}
+
+}  // namespace
+}  // namespace ordwise::test
