@@ -53,19 +53,6 @@ protected:
     PlainPlatform outside;
 };
 
-TEST_F(DriverTest, ACleanRunClosesTheInputAndTheSolveCommand) {
-    solve("Rounding", "44");
-    EXPECT_FALSE(frmMain.mnuSolve.Enabled);
-    EXPECT_FALSE(frmMain.Toolbar1[MainWindow::buttonSolve].Enabled);
-    EXPECT_TRUE(frmMain.mnuPrint.Enabled);
-    EXPECT_TRUE(frmMain.mnuSave.Enabled);
-    EXPECT_FALSE(ws.InputOpen);
-    EXPECT_EQ(frmPaper.Light.Image, "light1");
-    EXPECT_EQ(frmMain.MousePointer, ws.NormalPointer);
-    EXPECT_TRUE(outside.dialogs.messages.empty());
-    EXPECT_EQ(ws.ShownStep, ws.StepCount - 1);
-}
-
 TEST_F(DriverTest, EachFaultEndsInItsMessageAndLeavesSolveEnabled) {
     struct Case {
         const char* topic;

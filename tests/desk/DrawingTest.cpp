@@ -18,14 +18,6 @@ const Glyphs& runAt(const DrawingSurface& surface, std::size_t index) {
     return std::get<Glyphs>(surface.drawn().at(index));
 }
 
-TEST(TextWidth, AddsUpAndScalesWithTheSize) {
-    const double width = textWidth(Face::Halvern, "3x+1", 18);
-    EXPECT_DOUBLE_EQ(width, textWidth(Face::Halvern, "3x", 18) + textWidth(Face::Halvern, "+1", 18));
-    EXPECT_GT(textWidth(Face::Halvern, "W", 18), textWidth(Face::Halvern, "i", 18));
-    EXPECT_GT(width, textWidth(Face::Halvern, "3x+1", 8));
-    EXPECT_EQ(textWidth(Face::Halvern, "", 18), 0);
-}
-
 TEST(TextWidth, KeepsDigitsInColumnsAndSignsAlike) {
     for (const Face face : {Face::Halvern, Face::Explanation}) {
         for (const char* digit : {"1", "2", "9"})
@@ -37,17 +29,6 @@ TEST(TextWidth, KeepsDigitsInColumnsAndSignsAlike) {
 TEST(TextWidth, CountsACharacterOutsideAsciiOnce) {
     EXPECT_EQ(textWidth(Face::Halvern, "\xC3\xA9", 18), textWidth(Face::Halvern, "?", 18));
     EXPECT_EQ(textWidth(Face::Halvern, "\x7F\x01", 18), 2 * textWidth(Face::Halvern, "?", 18));
-}
-
-TEST(DrawingSurface, MovesThePenByWhatItPrints) {
-    DrawingSurface surface;
-    surface.CurrentY = 10;
-    surface.print("ab");
-    EXPECT_DOUBLE_EQ(surface.CurrentX, textWidth(Face::Halvern, "ab", 18));
-    EXPECT_EQ(surface.CurrentY, 10);
-    surface.printLine("c");
-    EXPECT_EQ(surface.CurrentX, 0);
-    EXPECT_DOUBLE_EQ(surface.CurrentY, 10 + lineHeightOf(Face::Halvern, 18));
 }
 
 TEST(DrawingSurface, JoinsGlyphsOfOneStyleIntoARunAndNoOthers) {
@@ -149,19 +130,6 @@ TEST(Windows, GiveBoxesAndCombosByNumber) {
     EXPECT_EQ(faultOf([&] { (void)paper.box(0); }), 9);
     EXPECT_EQ(faultOf([&] { (void)paper.box(7); }), 9);
     EXPECT_EQ(faultOf([&] { (void)paper.combo(4); }), 9);
-}
-
-TEST(Windows, StartWithNothingToSolveOrPrint) {
-    frmMain.mnuSolve.Enabled = true;
-    frmPaper.Paper[3].print("x");
-    frmPaper.PileFull = true;
-    ResetWindows();
-    EXPECT_FALSE(frmMain.mnuSolve.Enabled);
-    EXPECT_FALSE(frmMain.Toolbar1[MainWindow::buttonSolve].Enabled);
-    EXPECT_TRUE(frmMain.Toolbar1[MainWindow::buttonNew].Enabled);
-    EXPECT_TRUE(frmMain.mnuShowStep.Checked);
-    EXPECT_TRUE(frmPaper.Paper[3].drawn().empty());
-    EXPECT_FALSE(frmPaper.PileFull);
 }
 
 }  // namespace

@@ -73,12 +73,6 @@ TEST_F(GuidedInput, ThePencilStaysAtTheDenominatorOfALastFraction) {
     EXPECT_EQ(frmPaper.Pencil.Top, frmPaper.Paper[0].Top - 122);
 }
 
-TEST_F(GuidedInput, WithoutThePencilNothingMoves) {
-    frmMain.mnuPencil.Checked = false;
-    press("7");
-    EXPECT_FALSE(frmPaper.Timer1.Enabled);
-}
-
 TEST_F(GuidedInput, EachKeyDrawsTheWholeLineOnce) {
     press("1+2q");
     EXPECT_EQ(drawn(), "1+2");
@@ -137,14 +131,6 @@ TEST_F(GuidedInput, ATopicOfBoxesTakesNoKeys) {
     EXPECT_EQ(Form_KeyPress("7"), KeyOutcome::Dropped);
     EXPECT_EQ(Form_KeyPress(backspaceKey), KeyOutcome::Dropped);
     EXPECT_EQ(typedText(), "");
-}
-
-TEST_F(GuidedInput, ErasingLeavesAnOpenBarInForce) {
-    chooseFresh("Absolute Values");
-    press("|5");
-    ResetEngine(true);
-    press("5");
-    EXPECT_FALSE(solveEnabled());
 }
 
 }  // namespace

@@ -89,20 +89,6 @@ TEST_F(Worksheet, BoxesTakeNumbersOnly) {
     EXPECT_THROW(typeIntoBox(7, "1"), RunTimeFault);
 }
 
-TEST_F(Worksheet, BoxesGrowWithTheirText) {
-    ASSERT_TRUE(open(6));
-    double widest = 0;
-    const std::string keys = "1234567890";
-    for (std::size_t i = 0; i < keys.size(); ++i) {
-        Text_KeyPress(1, keys.substr(i, 1));
-        widest = frmPaper.Text1.Width;
-        EXPECT_EQ(widest, i < 3 ? 54 : 54 + 12 * static_cast<double>(i - 2));
-    }
-    EXPECT_EQ(widest, 138);
-    Text_KeyPress(1, backspaceKey);
-    EXPECT_EQ(frmPaper.Text1.Width, 126);
-}
-
 struct Readiness {
     std::vector<int> types;
     std::vector<int> wanted;

@@ -40,13 +40,6 @@ protected:
     }
 };
 
-TEST_F(WorkspaceTest, StartsWithNoStepRecorded) {
-    EXPECT_EQ(ws.StepCount, 1);
-    EXPECT_EQ(ws.StepClassOf[200], noStepClass);
-    EXPECT_TRUE(ws.InputOpen);
-    EXPECT_EQ(ws.RoundPlaces, 2);
-}
-
 TEST_F(WorkspaceTest, AResetEmptiesInputAndEngine) {
     use();
     ResetEngine(true);
@@ -81,17 +74,6 @@ TEST_F(WorkspaceTest, StepsGoOnlyWhereTheResetSaysSo) {
     EXPECT_EQ(ws.StepCount, 1);
     EXPECT_EQ(ws.StepLines[4] + ws.StepNotes[4], "");
     EXPECT_EQ(ws.StepClassOf[4], noStepClass);
-}
-
-TEST_F(WorkspaceTest, CommandsClearTheirOwnPart) {
-    use();
-    clearExplain();
-    EXPECT_EQ(ws.StepNotes[4], "");
-    EXPECT_EQ(ws.StepLines[4], "x=9");
-    ClearInput();
-    EXPECT_EQ(ws.InputTokens[2000], "");
-    EXPECT_EQ(ws.InputLast, 0);
-    EXPECT_EQ(ws.CanonTokens[4], "x");
 }
 
 TEST_F(WorkspaceTest, LimitsAreFelt) {

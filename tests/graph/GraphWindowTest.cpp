@@ -302,11 +302,5 @@ TEST_F(GraphWindowTest, TheMouseReadsCoordinates) {
     EXPECT_EQ(frmGraph.StatusText, "x=81920  y=0");
 }
 
-TEST_F(GraphWindowTest, ExitAsksForTheWindowToBeClosed) {
-    openPoint(1, 1);
-    mnuGraphExit_Click();
-    EXPECT_EQ(outside.windows.requests, std::vector<std::string>{"-frmGraph"});
-}
-
 }  // namespace
 }  // namespace ordwise

@@ -102,22 +102,6 @@ TEST_F(PrintingTest, ExplanationsStandInBlueUnderTheirStep) {
     EXPECT_EQ(notes, 30);
 }
 
-TEST_F(PrintingTest, AFullPageIsFollowedByAnotherInTheSameHand) {
-    solved(40);
-    EXPECT_TRUE(printSolution(false));
-    ASSERT_GE(job().pages.size(), 2U);
-    std::size_t steps = 0;
-    for (const DisplayList& page : job().pages) {
-        for (const Glyphs& run : runsOf(page)) {
-            EXPECT_LE(run.y + lineHeightOf(run.face, run.size), 1056 - 2 * 48) << run.text;
-            EXPECT_EQ(run.size, 12);
-            if (run.text.starts_with("=x+")) ++steps;
-        }
-    }
-    EXPECT_EQ(steps, 40U);
-    EXPECT_DOUBLE_EQ(runsOf(job().pages[1]).front().x, 12 * unitAcross);
-}
-
 TEST_F(PrintingTest, FractionsOfLinesOneBelowTheOtherDoNotMeet) {
     for (int i = 1; i <= 10; ++i) ws.StepLines[i] = i % 2 ? "#p/q#" : "~#p/q#~";
     ws.StepCount = 11;
@@ -137,13 +121,6 @@ TEST_F(PrintingTest, FractionsOfLinesOneBelowTheOtherDoNotMeet) {
         EXPECT_GT(run.y + barMiddle * em, above + 1) << "bar " << bars;
     }
     EXPECT_EQ(bars, 15) << "one of each fraction and one over every second";
-}
-
-TEST_F(PrintingTest, ASolutionOfASingleLineIsPrinted) {
-    ws.StepLines[1] = "~7~";
-    ws.StepCount = 1;
-    EXPECT_TRUE(printSolution(false));
-    EXPECT_EQ(runOf(job().pages[0], "7").size, 12);
 }
 
 TEST_F(PrintingTest, ALineThatCannotBeDrawnIsToldAndTheRestIsPrinted) {
@@ -244,11 +221,6 @@ TEST_F(PrintingTest, TheGraphStandsUnderItsProblemAndTheSolvedLine) {
         const auto* stroke = std::get_if<Stroke>(&operation);
         EXPECT_TRUE(stroke == nullptr || stroke->y1 > line);
     }
-}
-
-TEST_F(PrintingTest, WithoutAGraphWindowThereIsNoGraphToPrint) {
-    EXPECT_FALSE(PrintTheGraph());
-    EXPECT_TRUE(outside.printer.jobs.empty());
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "FaultOf.hpp"
-#include "MarkupValue.hpp"
 #include "PlainPlatform.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
@@ -41,33 +40,12 @@ Solution solutionOf(Solver solve, int roundPlaces = 2) {
     return solution;
 }
 
-// What is true of every solution, whatever its topic: it ends without a fault or a message, shows its
-// last step, every line can be drawn, every step but the first says why, and no piece is missing.
-inline void expectSound(const Solution& solution, const std::string& problem) {
-    SCOPED_TRACE(problem);
-    EXPECT_EQ(solution.fault, 0);
-    EXPECT_TRUE(solution.messages.empty());
-    ASSERT_GE(solution.lines.size(), 2U);
-    EXPECT_EQ(ws.ShownStep, static_cast<int>(solution.lines.size()));
-    EXPECT_EQ(solution.notes.front(), "");
-    for (std::size_t i = 0; i < solution.lines.size(); ++i) {
-        std::string why;
-        EXPECT_TRUE(wellFormed(solution.lines[i], &why)) << solution.lines[i] << ": " << why;
-        EXPECT_TRUE(i == 0 || wellFormed(solution.notes[i], &why)) << solution.notes[i] << ": " << why;
-        EXPECT_NE(solution.lines[i], "");
-        EXPECT_TRUE(i == 0 || !solution.notes[i].empty()) << solution.lines[i];
-        for (const char* trace : {"nan", "inf"}) {
-            EXPECT_EQ(solution.lines[i].find(trace), std::string::npos) << solution.lines[i];
-            EXPECT_EQ(solution.notes[i].find(trace), std::string::npos) << solution.notes[i];
-        }
-    }
-}
-
-// The line in which a sound solution ends: the answer or the complaint.
+// The line in which a solution without a fault ends: the answer or the complaint.
 template <class Solver>
 std::string answerOf(Solver solve, int roundPlaces = 2) {
     const Solution solution = solutionOf(solve, roundPlaces);
-    expectSound(solution, solution.lines.empty() ? "nothing" : solution.lines[0]);
+    EXPECT_EQ(solution.fault, 0);
+    EXPECT_TRUE(solution.messages.empty());
     return solution.last();
 }
 

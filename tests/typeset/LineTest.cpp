@@ -354,10 +354,5 @@ TEST_F(LineTest, GoesOnAfterABreakAtTheFootOfTheTenthSheet) {
     EXPECT_EQ(run("fine", 8).text, "fine");
 }
 
-TEST_F(LineTest, SaysSoForEveryBrokenLineElsewhere) {
-    for (int i = 0; i < 3; ++i) draw("x^2");
-    EXPECT_EQ(outside.dialogs.messages.size(), 3U);
-}
-
 }  // namespace
 }  // namespace ordwise

@@ -160,17 +160,5 @@ TEST_F(StepDisplayTest, FillsTenSheetsAndSaysOnceThatThereAreNoMore) {
     EXPECT_EQ(ws.ShownStep, 200);
 }
 
-TEST_F(StepDisplayTest, BlinksInTwoPictures) {
-    Timer2_Timer();
-    EXPECT_EQ(frmPaper.Paper[0].blinker.Image, "arrow2");
-    Timer2_Timer();
-    EXPECT_EQ(frmPaper.Paper[0].blinker.Image, "arrow1");
-    Timer2_Timer();
-    EXPECT_EQ(frmPaper.Paper[0].blinker.Image, "arrow2");
-    const bool shown = frmPaper.Click.Visible;
-    clickMe_Timer();
-    EXPECT_NE(frmPaper.Click.Visible, shown);
-}
-
 }  // namespace
 }  // namespace ordwise
