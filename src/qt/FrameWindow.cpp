@@ -114,7 +114,10 @@ bool landed(int button) {
 
 FrameWindow::FrameWindow()
     : before_(platform), desk_(nullptr), scroll_(new QScrollArea(this)), status_(new StatusLine(this)) {
-    platform = Platform{&dialogs_, &windows_, &clock_};
+    platform = Platform{};
+    platform.dialogs = &dialogs_;
+    platform.windows = &windows_;
+    platform.clock = &clock_;
     dialogs_.parent = this;
     dialogs_.beforeDialog = [this] { stage_.show(); };
     stage_.showChanges = [this] { showChanges(); };
