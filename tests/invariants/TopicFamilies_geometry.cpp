@@ -26,91 +26,34 @@ struct Figure {
     const char* complaint;  // a piece of what is said of a side that is not above 0
 };
 
-const std::vector<Figure>& figures() {
-    static const std::vector<Figure> all = {
-        {"Volume of a Box/Cube",
-         {2, 3, 1},
-         [](const Sides& s, int) { return s[0] * s[1] * s[2]; },
-         true,
-         "All sides must be greater than zero."},
-        {"Volume of a Cylinder",
-         {2, 1},
-         [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[1]; },
-         true,
-         "All lengths must be greater than zero."},
-        {"Volume of a Cone",
-         {2, 1},
-         [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[1] / 3; },
-         true,
-         "All lengths must be greater than zero."},
-        {"Volume of a Pyramid",
-         {2, 3, 1},
-         [](const Sides& s, int) { return s[0] * s[1] * s[2] / 3; },
-         true,
-         "All sides must be greater than zero."},
-        {"Volume of a Sphere",
-         {2},
-         [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[0] * 4 / 3; },
-         true,
-         "The radius must be greater than zero."},
-        {"Area of a Square/Rectangle",
-         {2, 1},
-         [](const Sides& s, int) { return s[0] * s[1]; },
-         true,
-         "All sides must be greater than zero."},
-        {"Area of a Circle",
-         {2},
-         [](const Sides& s, int) { return fullPi * s[0] * s[0]; },
-         true,
-         "The radius must be greater than zero."},
-        {"Area of a Triangle",
-         {2, 1},
-         [](const Sides& s, int) { return s[0] * s[1] / 2; },
-         true,
-         "All sides must be greater than zero."},
-        {"Area of a Parallelogram",
-         {2, 1},
-         [](const Sides& s, int) { return s[0] * s[1]; },
-         true,
-         "All sides must be greater than zero."},
-        {"Area of a Trapezoid",
-         {2, 3, 1},
-         [](const Sides& s, int) { return s[1] * (s[0] + s[2]) / 2; },
-         true,
-         "All sides must be greater than zero."},
-        {"Perimeter of a Square/Rectangle",
-         {2, 1},
-         [](const Sides& s, int) { return 2 * (s[0] + s[1]); },
-         false,
-         "All sides of a square/rectangle must be greater than zero."},
-        {"Perimeter of a Triangle",
-         {3, 2, 1},
-         [](const Sides& s, int) { return s[0] + s[1] + s[2]; },
-         false,
-         "All sides of a triangle must be greater than zero."},
-        {"Calculating Circumference Using Radius",
-         {2},
-         [](const Sides& s, int places) { return 2 * roundedPi(places) * s[0]; },
-         false,
-         "The radius of a circle must be greater than 0."},
-        {"Calculating Circumference Using Diameter",
-         {2},
-         [](const Sides& s, int places) { return roundedPi(places) * s[0]; },
-         false,
-         "The diameter of a circle must be greater than 0."},
-        {"Calculating Diameter Using Radius",
-         {2},
-         [](const Sides& s, int) { return 2 * s[0]; },
-         false,
-         "The radius of a circle must be greater than 0."},
-        {"Calculating Radius Using Diameter",
-         {2},
-         [](const Sides& s, int) { return s[0] / 2; },
-         false,
-         "The diameter of a circle must be greater than 0."},
-    };
-    return all;
-}
+constexpr const char* noSide = "All sides must be greater than zero.";
+constexpr const char* noLength = "All lengths must be greater than zero.";
+constexpr const char* noRadius = "The radius must be greater than zero.";
+constexpr const char* noSideOfRectangle = "All sides of a square/rectangle must be greater than zero.";
+constexpr const char* noSideOfTriangle = "All sides of a triangle must be greater than zero.";
+constexpr const char* noRadiusOfCircle = "The radius of a circle must be greater than 0.";
+constexpr const char* noDiameter = "The diameter of a circle must be greater than 0.";
+
+// clang-format off
+const std::vector<Figure> figures = {
+    {"Volume of a Box/Cube", {2, 3, 1}, [](const Sides& s, int) { return s[0] * s[1] * s[2]; }, true, noSide},
+    {"Volume of a Cylinder", {2, 1}, [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[1]; }, true, noLength},
+    {"Volume of a Cone", {2, 1}, [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[1] / 3; }, true, noLength},
+    {"Volume of a Pyramid", {2, 3, 1}, [](const Sides& s, int) { return s[0] * s[1] * s[2] / 3; }, true, noSide},
+    {"Volume of a Sphere", {2}, [](const Sides& s, int) { return fullPi * s[0] * s[0] * s[0] * 4 / 3; }, true, noRadius},
+    {"Area of a Square/Rectangle", {2, 1}, [](const Sides& s, int) { return s[0] * s[1]; }, true, noSide},
+    {"Area of a Circle", {2}, [](const Sides& s, int) { return fullPi * s[0] * s[0]; }, true, noRadius},
+    {"Area of a Triangle", {2, 1}, [](const Sides& s, int) { return s[0] * s[1] / 2; }, true, noSide},
+    {"Area of a Parallelogram", {2, 1}, [](const Sides& s, int) { return s[0] * s[1]; }, true, noSide},
+    {"Area of a Trapezoid", {2, 3, 1}, [](const Sides& s, int) { return s[1] * (s[0] + s[2]) / 2; }, true, noSide},
+    {"Perimeter of a Square/Rectangle", {2, 1}, [](const Sides& s, int) { return 2 * (s[0] + s[1]); }, false, noSideOfRectangle},
+    {"Perimeter of a Triangle", {3, 2, 1}, [](const Sides& s, int) { return s[0] + s[1] + s[2]; }, false, noSideOfTriangle},
+    {"Calculating Circumference Using Radius", {2}, [](const Sides& s, int places) { return 2 * roundedPi(places) * s[0]; }, false, noRadiusOfCircle},
+    {"Calculating Circumference Using Diameter", {2}, [](const Sides& s, int places) { return roundedPi(places) * s[0]; }, false, noDiameter},
+    {"Calculating Diameter Using Radius", {2}, [](const Sides& s, int) { return 2 * s[0]; }, false, noRadiusOfCircle},
+    {"Calculating Radius Using Diameter", {2}, [](const Sides& s, int) { return s[0] / 2; }, false, noDiameter},
+};
+// clang-format on
 
 DrawnProblem drawFigure(const Figure& figure, Draws& draws) {
     DrawnProblem drawn{{figure.topic, ""}, {}};
@@ -222,7 +165,7 @@ int placesFor(Draws& draws, Problem& problem) {
 
 std::vector<TopicGenerator> geometryGenerators() {
     std::vector<TopicGenerator> all;
-    for (const Figure& figure : figures()) {
+    for (const Figure& figure : figures) {
         all.push_back([&figure](Draws& draws) { return drawFigure(figure, draws); });
     }
     all.push_back(drawRightTriangle);
