@@ -64,15 +64,16 @@ using Complaints = std::vector<Complaint>;
 class Survey {
 public:
     void add(const Problem& problem, const Solution& solution, const Complaints& complaints);
-    // Prints a line a topic, and fails the running test for every kind of complaint.
-    void report(const std::string& heading) const;
+    // Prints a line a topic, and fails the running test for every kind of complaint and for every topic
+    // whose slowest problem takes more than `milliseconds` when it is solved again by itself.
+    void report(const std::string& heading, double milliseconds = 50) const;
 
 private:
     struct Tally {
         int problems = 0;
         int right = 0;
         double slowest = 0;
-        std::string slowestProblem;
+        Problem slowestProblem;
     };
     struct Example {
         int count = 0;

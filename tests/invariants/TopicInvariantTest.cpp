@@ -21,7 +21,22 @@ TEST(TopicInvariant, EveryScriptedTopicGivesTheAnswerOfPlainArithmetic) {
             book.add(drawn.problem, solution, found);
         }
     }
-    book.report("Scripted topics");
+    book.report("Scripted topics", 10);
+}
+
+// A search number by number would crawl here.
+TEST(TopicInvariant, TheLargestNumbersAreAnsweredAtOnce) {
+    Survey book;
+    for (const Problem& problem :
+         {Problem{"Greatest Common Factors", "9998,9999,9997"}, Problem{"Greatest Common Factors", "9999,9999"},
+          Problem{"Least Common Multiples", "9999,9998"}, Problem{"Least Common Multiples", "9973,9967,13"},
+          Problem{"Least Common Multiples", "9973,9967,9949"}, Problem{"Prime/Composite", "9973"},
+          Problem{"Prime Factorization", "9973"}, Problem{"Factoring", "9999"},
+          Problem{"Simplifying Fractions", "9999/9998"}, Problem{"Exponential Notation", "9999991"},
+          Problem{"Converting Scientific To Regular Notation", "", {{1, "1"}, {2, "-999999999"}}}}) {
+        for (int i = 0; i < 3; ++i) book.add(problem, solve(problem), {});
+    }
+    book.report("Largest numbers", 10);
 }
 
 // The problems that the Example command makes up, of every topic and in both difficulties.
