@@ -5,16 +5,26 @@
 namespace ordwise {
 namespace {
 
-bool isLetterOrDigit(char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z');
+bool isLetter(char c) {
+    return c >= 'a' && c <= 'z';
 }
 
-// Something that can stand beside a "/" or behind a "√" as it is: a number, a word, or one pair of
-// parentheses around everything.
+bool isLetterOrDigit(char c) {
+    return (c >= '0' && c <= '9') || isLetter(c);
+}
+
+// A name: "x", "a2", "height", but not "xy", which is a product.
+bool isName(std::string_view text) {
+    if (text.empty() || !isLetter(text.front())) return false;
+    return text.size() != 2 || !isLetter(text[1]);
+}
+
+// Something that can stand beside a "/" or behind a "√" as it is: a number, a name, a power of a
+// name, or one pair of parentheses around everything. "2x" is none: 1/2x would be half of x.
 bool isSimple(std::string_view text) {
     if (IsNumeric(text)) return text.front() != '-';
     if (text.size() > 1 && text.front() == '(' && text.find(')') == text.size() - 1) return true;
-    return !text.empty() && text.find_first_of("+-*/ ()<>=") == std::string_view::npos;
+    return isName(text) && text.find_first_of("+-*/ ()<>=") == std::string_view::npos;
 }
 
 std::string wrapped(const std::string& text) {
@@ -39,12 +49,16 @@ std::size_t barOf(std::string_view content) {
     return bar;
 }
 
+// Numerators may be products: 2x/3 is the same read either way. A sum or a power is wrapped.
+std::string numerator(const std::string& text) {
+    const bool product = !text.empty() && text.find_first_of("+-^ ", 1) == std::string::npos;
+    return product ? text : wrapped(text);
+}
+
 std::string fraction(std::string_view content) {
     const std::size_t bar = barOf(content);
     if (bar == std::string_view::npos) return terminalText(content);
-    const std::string top = terminalText(content.substr(0, bar));
-    return (top.starts_with('-') && isSimple(top.substr(1)) ? top : wrapped(top)) + "/" +
-           wrapped(terminalText(content.substr(bar + 1)));
+    return numerator(terminalText(content.substr(0, bar))) + "/" + wrapped(terminalText(content.substr(bar + 1)));
 }
 
 std::string construct(char mark, std::string_view content) {
