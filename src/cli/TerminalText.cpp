@@ -19,11 +19,16 @@ bool isName(std::string_view text) {
     return text.size() != 2 || !isLetter(text[1]);
 }
 
+// One pair of parentheses around everything.
+bool isEnclosed(std::string_view text) {
+    return text.size() > 1 && text.front() == '(' && text.find(')') == text.size() - 1;
+}
+
 // Something that can stand beside a "/" or behind a "√" as it is: a number, a name, a power of a
-// name, or one pair of parentheses around everything. "2x" is none: 1/2x would be half of x.
+// name, or what is enclosed. "2x" is none: 1/2x would be half of x.
 bool isSimple(std::string_view text) {
     if (IsNumeric(text)) return text.front() != '-';
-    if (text.size() > 1 && text.front() == '(' && text.find(')') == text.size() - 1) return true;
+    if (isEnclosed(text)) return true;
     return isName(text) && text.find_first_of("+-*/ ()<>=") == std::string_view::npos;
 }
 
@@ -52,7 +57,7 @@ std::size_t barOf(std::string_view content) {
 // Numerators may be products: 2x/3 is the same read either way. A sum or a power is wrapped.
 std::string numerator(const std::string& text) {
     const bool product = !text.empty() && text.find_first_of("+-^ ", 1) == std::string::npos;
-    return product ? text : wrapped(text);
+    return product || isEnclosed(text) ? text : "(" + text + ")";
 }
 
 std::string fraction(std::string_view content) {
