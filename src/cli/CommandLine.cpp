@@ -140,6 +140,21 @@ int runExample(ExampleOptions& options, std::ostream& out, std::ostream& err) {
     return solvedStatus(answer, err);
 }
 
+struct TestOptions {
+    TestRequest request;
+    bool json = false;
+};
+
+int runTest(const TestOptions& options, std::ostream& out) {
+    const Json answer = answerTest(options.request);
+    if (options.json) {
+        out << dumped(answer) << '\n';
+    } else {
+        printTest(answer, options.request.seed, out);
+    }
+    return exitDone;
+}
+
 int runKeys(KeysRequest request, bool json, std::ostream& out) {
     unmark(request.text);
     const Json answer = answerKeys(request);
@@ -213,6 +228,19 @@ void addExampleOptions(CLI::App& command, ExampleOptions& options) {
     command.add_flag("--json", options.json, "One JSON object");
 }
 
+void addTestOptions(CLI::App& command, TestOptions& options) {
+    options.request.seed = freshSeed();
+    command.add_option("--section", options.request.sections, "TOPIC:COUNT or TOPIC:COUNT:complex, up to ten")
+        ->expected(1)
+        ->take_all()
+        ->required();
+    addRepeated(command, "--heading", options.request.heading, "A line of the heading, up to three");
+    command.add_option("--key", options.request.key, "The answer key: none, answers or steps");
+    command.add_option("--versions", options.request.versions, "Make versions A, B and C of the test: 1 to 3");
+    command.add_option("--seed", options.request.seed, "The same number makes the same test");
+    command.add_flag("--json", options.json, "One JSON object");
+}
+
 }  // namespace
 
 int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
@@ -222,6 +250,7 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     SolveOptions solve;
     LoadOptions load;
     ExampleOptions example;
+    TestOptions test;
     KeysRequest keys;
     bool json = false;
     std::function<int()> run;
@@ -247,6 +276,10 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     CLI::App* exampleCommand = app.add_subcommand("example", "Make up a problem and solve it");
     addExampleOptions(*exampleCommand, example);
     exampleCommand->callback([&] { run = [&] { return runExample(example, out, err); }; });
+
+    CLI::App* testCommand = app.add_subcommand("test", "Make a practice test");
+    addTestOptions(*testCommand, test);
+    testCommand->callback([&] { run = [&] { return runTest(test, out); }; });
 
     CLI::App* batch = app.add_subcommand("batch", "Answer requests, one JSON object a line on standard input");
     batch->callback([&] { run = [&] { return runBatch(in, out, err); }; });

@@ -59,6 +59,27 @@ void printKeys(const nlohmann::ordered_json& answer, std::ostream& out) {
     }
 }
 
+void printTest(const nlohmann::ordered_json& answer, std::uint64_t seed, std::ostream& out) {
+    const auto printLines = [&](const nlohmann::ordered_json& lines) {
+        for (const auto& line : lines) out << terminalText(line.get<std::string>()) << '\n';
+    };
+    if (!answer.contains("versions")) {
+        printLines(answer.at("heading"));
+        printLines(answer.at("lines"));
+        out << "\nSeed " << seed << '\n';
+        return;
+    }
+    for (const auto& test : answer.at("versions")) {
+        const std::string version = textIn(test, "version");
+        printLines(answer.at("heading"));
+        if (!version.empty()) out << "Version " << version << '\n';
+        printLines(test.at("lines"));
+        if (!test.at("key").empty()) out << "\nAnswer Key\n\n";
+        printLines(test.at("key"));
+        out << "\nSeed " << test.at("seed") << "\n\n";
+    }
+}
+
 void printTopics(const nlohmann::ordered_json& answer, std::ostream& out) {
     for (const auto& topic : answer)
         out << std::right << std::setw(3) << topic.at("type").get<int>() << "  " << textIn(topic, "name") << '\n';

@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdint>
 #include <iosfwd>
 
 namespace ordwise {
@@ -11,6 +12,8 @@ namespace ordwise {
 void printSolution(const nlohmann::ordered_json& answer, std::ostream& out);
 // Each key with what stands on the paper after it, or the reason of its refusal.
 void printKeys(const nlohmann::ordered_json& answer, std::ostream& out);
+// A practice test: each version under the heading, its key behind it, the seed at the foot.
+void printTest(const nlohmann::ordered_json& answer, std::uint64_t seed, std::ostream& out);
 // A topic a line: code and name.
 void printTopics(const nlohmann::ordered_json& answer, std::ostream& out);
 

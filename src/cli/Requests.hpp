@@ -41,6 +41,15 @@ struct LoadRequest {
     std::map<std::string, std::string> settings;
 };
 
+// A practice test, as ordwise-cli test makes it.
+struct TestRequest {
+    std::vector<std::string> sections;  // TOPIC:COUNT or TOPIC:COUNT:complex
+    std::vector<std::string> heading;   // up to three lines; without any the usual ones
+    std::string key = "none";           // or "answers", "steps"
+    int versions = 1;                   // up to three: A, B, C
+    std::uint64_t seed = 0;
+};
+
 struct KeysRequest {
     std::string topic;
     std::string text;  // every character a key; a backspace is U+0008
@@ -62,6 +71,9 @@ struct ExampleRequest {
 [[nodiscard]] nlohmann::ordered_json answerSolve(const SolveRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerLoad(const LoadRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerExample(const ExampleRequest& request);
+// Its heading and the lines of its first version. With a key or several versions also "versions":
+// version, seed, lines and key of each.
+[[nodiscard]] nlohmann::ordered_json answerTest(const TestRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerKeys(const KeysRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerTopics();
 

@@ -50,4 +50,12 @@ void unseedDraws() {
     draws = Draws{};
 }
 
+SeededDraws::SeededDraws(std::uint64_t seed) : stateBefore_(draws.state), seededBefore_(draws.seeded) {
+    seedDraws(seed);
+}
+
+SeededDraws::~SeededDraws() {
+    draws = Draws{stateBefore_, seededBefore_};
+}
+
 }  // namespace ordwise

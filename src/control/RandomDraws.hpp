@@ -20,4 +20,17 @@ void seedDraws(std::uint64_t seed);
 // Back to the draws of a freshly started program.
 void unseedDraws();
 
+// Seeded draws for a while: afterwards the draws go on where they were.
+class SeededDraws {
+public:
+    explicit SeededDraws(std::uint64_t seed);
+    SeededDraws(const SeededDraws&) = delete;
+    SeededDraws& operator=(const SeededDraws&) = delete;
+    ~SeededDraws();
+
+private:
+    std::uint64_t stateBefore_;
+    bool seededBefore_;
+};
+
 }  // namespace ordwise

@@ -2,6 +2,7 @@
 
 #include "GraphWindow.hpp"
 #include "Platform.hpp"
+#include "PracticeWindow.hpp"
 #include "PrintWindows.hpp"
 #include "StartWindows.hpp"
 
@@ -79,6 +80,7 @@ void ResetWindows() {
     frmPrintPreview = PrintPreviewWindow{};
     frmLogo = LogoWindow{};
     frmOptions = OptionsWindow{};
+    frmPracticeTest = PracticeTestWindow{};
 }
 
 }  // namespace ordwise

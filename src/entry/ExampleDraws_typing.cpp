@@ -176,37 +176,50 @@ void typeTermOfLine(bool complex, bool) {
 
 // ---- what is worth solving
 
-// How often each letter stands on the left side, less how often on the right.
-std::map<std::string, int> countedLetters() {
+// What all terms of an equation come to on its left side: how often each letter stands there, and under
+// "" the number. e.g. 2x+3=x+7 -> x 1, "" -4
+std::map<std::string, int> countedTerms() {
     std::map<std::string, int> counts;
     int side = 1;
     int sign = 1;
-    int coefficient = 0;
+    std::string number;
+    std::string name;
+    const auto endTerm = [&] {
+        if (!number.empty() || !name.empty()) counts[name] += side * sign * (number.empty() ? 1 : longOf(number));
+        number.clear();
+        name.clear();
+    };
     for (int i = 0; i < ws.InputLast; ++i) {
         const std::string& key = ws.InputTokens[i];
         if (IsLetter(key)) {
-            counts[key] += side * sign * (coefficient == 0 ? 1 : coefficient);
+            name = key;
         } else if (IsNumeric(key)) {
-            coefficient = coefficient * 10 + longOf(key);
-            continue;
+            number += key;
         } else {
+            endTerm();
             sign = key == "-" ? -1 : 1;
             if (key == "=") side = -1;
         }
-        coefficient = 0;
     }
+    endTerm();
     return counts;
 }
 
-// The variable does not fall out of the equation.
-bool hasSolution() {
-    const auto counts = countedLetters();
-    return counts.size() == 1 && counts.begin()->second != 0;
+bool allLeft(const std::map<std::string, int>& counts) {
+    return std::all_of(counts.begin(), counts.end(), [](const auto& count) { return count.second != 0; });
 }
 
+// The variable does not fall out of the equation, and it is not simply 0.
+bool hasSolution() {
+    const auto counts = countedTerms();
+    return counts.size() == 2 && counts.contains("") && allLeft(counts);
+}
+
+// Both letters stay, with or without a number.
 bool isSlopingLine() {
-    const auto counts = countedLetters();
-    return counts.size() == 2 && std::all_of(counts.begin(), counts.end(), [](const auto& c) { return c.second != 0; });
+    auto counts = countedTerms();
+    counts.erase("");
+    return counts.size() == 2 && allLeft(counts);
 }
 
 // A product or a like term is there to be worked out.

@@ -5,6 +5,7 @@
 #include "ExplainWindow.hpp"
 #include "ExplanationWindow.hpp"
 #include "OptionsLogic.hpp"
+#include "PracticeTestLogic.hpp"
 #include "StartStop.hpp"
 #include "Windows.hpp"
 #include "WorksheetLayout.hpp"
@@ -20,7 +21,7 @@ struct WindowRow {
     void (*unload)();
 };
 
-constexpr std::array<WindowRow, 5> windowRows{{
+constexpr std::array<WindowRow, 6> windowRows{{
     {"frmPaper", [] { Form_Load(); },
      [] {
          if (frmPaper.Loaded) Form_Unload();
@@ -41,6 +42,7 @@ constexpr std::array<WindowRow, 5> windowRows{{
      [] { frmExplain.Loaded = false; }},
     {"frmLogo", [] { Logo_Load(); }, [] { Logo_Unload(); }},
     {"frmOptions", [] { Options_Load(); }, [] { Options_Unload(); }},
+    {"frmPracticeTest", [] { PracticeTest_Load(); }, [] { PracticeTest_Unload(); }},
 }};
 
 }  // namespace

@@ -69,5 +69,43 @@ TEST(Examples, AreTheSameForTheSameSeedOnTheLineAndInABatch) {
               "{\"error\":\"\\\"seed\\\" must be a whole number from 0 on.\"}\n");
 }
 
+TEST(PracticeTests, ArePrintedAndMadeAgainByTheirSeed) {
+    const Outcome shown = cli({"test", "--section", "Ratios:2", "--section", "Arithmetic:1:complex", "--heading",
+                               "School", "--seed", "12", "--key", "answers", "--versions", "2"});
+    EXPECT_EQ(shown.status, 0) << shown.err;
+    EXPECT_EQ(shown.out.rfind("School\n", 0), 0U) << shown.out;
+    for (const char* piece : {"Version B", "Write the following ratios as fractions:\n1) ", "Answer Key", "Seed 13"})
+        EXPECT_NE(shown.out.find(piece), std::string::npos) << piece;
+    const Outcome first = cli({"test", "--section", "Ratios:2", "--seed", "12", "--json"});
+    const json test = json::parse(first.out);
+    EXPECT_EQ(test.size(), 2U);
+    EXPECT_EQ(test.at("heading").size(), 3U);
+    EXPECT_EQ(test.at("lines").size(), 4U);
+    EXPECT_EQ(first.out, cli({"test", "--section", "Ratios:2", "--seed", "12", "--json"}).out);
+}
+
+TEST(PracticeTests, RefuseWhatCannotBeMade) {
+    const struct {
+        std::vector<std::string> arguments;
+        const char* sentence;
+    } cases[] = {
+        {{"Ratios"}, "--section takes TOPIC:COUNT or TOPIC:COUNT:complex, not \"Ratios\"."},
+        {{"Ratios:0"}, "--section takes TOPIC:COUNT or TOPIC:COUNT:complex, not \"Ratios:0\"."},
+        {{"Ratios:2:hard"}, "--section takes TOPIC:COUNT or TOPIC:COUNT:complex, not \"Ratios:2:hard\"."},
+        {{"Rations:2"}, "\"Ratios\""},
+        {{"Ratios:250"}, "The test has more than 200 lines."},
+        {{"Ratios:2", "--key", "all"}, "--key takes none, answers or steps, not \"all\"."},
+        {{"Ratios:2", "--versions", "4"}, "--versions takes 1 to 3."},
+    };
+    for (const auto& each : cases) {
+        std::vector<std::string> arguments = {"test", "--section"};
+        arguments.insert(arguments.end(), each.arguments.begin(), each.arguments.end());
+        const Outcome outcome = cli(arguments);
+        EXPECT_EQ(outcome.status, 2) << each.sentence;
+        EXPECT_EQ(outcome.out, "");
+        EXPECT_NE(outcome.err.find(each.sentence), std::string::npos) << outcome.err;
+    }
+}
+
 }  // namespace
 }  // namespace ordwise::test

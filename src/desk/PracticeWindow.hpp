@@ -1,0 +1,44 @@
+// frmPracticeTest as plain data: the outline of a test of up to ten sections, on a tab beside the
+// topics to choose from, and how the test is to be headed, answered and varied.
+#pragma once
+
+#include "ChooserWindow.hpp"
+#include "Windows.hpp"
+
+#include <string>
+#include <vector>
+
+namespace ordwise {
+
+struct PracticeTestWindow {
+    static constexpr int lastSection = 9;
+
+    struct ListItem {
+        std::string Text;
+        bool Checked = false;  // the topic is in the outline
+    };
+
+    bool Loaded = false;
+    bool ArrowKeyNavigation = false;  // the tree is walked by its arrow keys, so nodes are not taken
+    int SSTab1 = 0;
+    std::vector<ChooserWindow::Node> TreeView1;
+    std::vector<ListItem> IndexList;  // all topics in alphabetical order
+
+    BoundedArray<Control, lastSection> Text4;        // the section's topic, "" for a free slot
+    BoundedArray<ComboControl, lastSection> Combo1;  // its number of problems
+    BoundedArray<Control, lastSection> Check1;       // "Complex"
+    BoundedArray<Control, lastSection> Command4;     // "Clear"
+
+    Control Text1, Text2, Text3;  // the heading of the test, in HalvernFont
+    ComboControl AnswerKey;       // none, the answers, or the answers with all steps
+    ComboControl Versions;        // one, or A and B, or A, B and C
+    Control Seed;                 // makes the same test again; empty draws a new one
+    Control Command2;             // "Create Practice Test"
+    Control Command1;             // "Cancel"
+
+    PracticeTestWindow();
+};
+
+extern PracticeTestWindow frmPracticeTest;
+
+}  // namespace ordwise

@@ -1,0 +1,141 @@
+#include "PracticeTest.hpp"
+
+#include "Catalogue.hpp"
+#include "DeskKeeper.hpp"
+#include "Fault.hpp"
+#include "NumberText.hpp"
+#include "PracticeTestTopics.hpp"
+#include "RandomDraws.hpp"
+#include "SilentOutside.hpp"
+#include "TextTools.hpp"
+#include "WorksheetLayout.hpp"
+
+namespace ordwise {
+namespace {
+
+// A problem of the test, with what is needed to solve it.
+struct TestProblem {
+    std::string topic;
+    Example example;
+};
+
+void emptyTest() {
+    for (std::string& line : ws.TestProblems) line.clear();
+    ws.TestCount = 0;
+    ws.TestNumber = 0;
+}
+
+// A blank line, the heading, and the problems.
+void addSection(const TestSection& section, std::vector<TestProblem>& problems) {
+    const int type = TestTopicRow(section.topic);
+    ws.TestProblems[ws.TestCount] = "";
+    ws.TestCount += 1;
+    ws.TestProblems[ws.TestCount] = ws.TestHeading;
+    ws.TestCount += 1;
+    ws.TestHeading.clear();
+    for (int i = 0; i < section.count; ++i)
+        problems.push_back({section.topic, GenerateExample(type, true, section.complex ? complexLevel : 0)});
+}
+
+std::vector<std::string> testLines() {
+    std::vector<std::string> lines;
+    for (int i = 0; i < ws.TestCount; ++i) lines.push_back(ws.TestProblems[i]);
+    return lines;
+}
+
+// The values that a solve has asked for. e.g. "x = 4, y = 2: "
+std::string valuesTold(const SilentOutside& outside) {
+    std::vector<std::string> told;
+    for (const auto& [question, answer] : outside.answered)
+        told.push_back(question.substr(0, question.find(" = ")) + " = " + answer);
+    return told.empty() ? "" : joined(told, ", ") + ": ";
+}
+
+// Writes the problem on a fresh worksheet and solves it all at once.
+std::vector<std::string> keyOf(const TestProblem& problem, int number, AnswerKey kind) {
+    SilentOutside outside;
+    Form_Unload();
+    TreeViewSelect(problem.topic);
+    Form_Load();
+    frmMain.mnuShowStep.Checked = false;
+    fillWorksheet(problem.example.boxes, problem.example.combos);
+    ExampleChop(problem.example.keys, false);
+    const std::string start = textOf(number) + ") " + valuesTold(outside);
+    if (kind == AnswerKey::Answers) return {start + answerOnDesk()};
+    std::vector<std::string> lines = stepsOnDesk();
+    lines.front().insert(0, start);
+    return lines;
+}
+
+std::vector<std::string> keyLines(const std::vector<TestProblem>& problems, AnswerKey kind) {
+    std::vector<std::string> lines;
+    for (const TestProblem& problem : problems) {
+        const int number = static_cast<int>(&problem - problems.data()) + 1;
+        if (kind == AnswerKey::Steps && number > 1) lines.emplace_back();
+        for (std::string& line : keyOf(problem, number, kind)) lines.push_back(std::move(line));
+    }
+    return lines;
+}
+
+MadeTest makeTest(const TestPlan& plan, std::uint64_t seed) {
+    const SeededDraws draws(seed);
+    ws.RecentExamples.clear();
+    emptyTest();
+    std::vector<TestProblem> problems;
+    for (const TestSection& section : plan.sections) addSection(section, problems);
+    MadeTest test{seed, "", testLines(), {}};
+    if (plan.key != AnswerKey::None) test.key = keyLines(problems, plan.key);
+    return test;
+}
+
+// The lines of the first version, where a preview or a listing looks for them.
+void showTest(const MadeTest& test) {
+    emptyTest();
+    for (const std::string& line : test.lines) {
+        ws.TestProblems[ws.TestCount] = line;
+        ws.TestCount += 1;
+    }
+}
+
+std::array<std::string, 3> headingWith(std::array<std::string, 3> heading, const std::string& addition) {
+    if (!addition.empty()) heading[1] += heading[1].empty() ? addition : " - " + addition;
+    return heading;
+}
+
+}  // namespace
+
+int TestTopicRow(std::string_view topic) {
+    const TestTopicRowData* row = findTestTopic(topic);
+    if (row == nullptr) raise(FaultNumber::Subscript);
+    TreeViewSelect(topic, true);
+    ws.TestHeading = row->heading;
+    ws.TestSuffix = row->suffix;
+    return row->testType;
+}
+
+std::vector<MadeTest> makeTests(const TestPlan& plan) {
+    std::vector<MadeTest> tests;
+    {
+        const DeskKeeper keeper;
+        for (int i = 0; i < plan.versions; ++i)
+            tests.push_back(makeTest(plan, plan.seed + static_cast<std::uint64_t>(i)));
+    }
+    for (std::size_t i = 0; tests.size() > 1 && i < tests.size(); ++i)
+        tests[i].version = std::string(1, static_cast<char>('A' + i));
+    if (!tests.empty()) showTest(tests.front());
+    return tests;
+}
+
+std::vector<TestSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTest>& tests) {
+    std::vector<TestSheet> sheets;
+    for (const MadeTest& test : tests) {
+        const std::string version = test.version.empty() ? "" : "Version " + test.version;
+        const std::string foot = "Seed " + textOf(static_cast<std::int64_t>(test.seed));
+        const auto heading = headingWith(plan.heading, version);
+        sheets.push_back({heading, test.lines, foot});
+        if (!test.key.empty()) sheets.push_back({headingWith(heading, "Answer Key"), test.key, foot});
+    }
+    return sheets;
+}
+
+}  // namespace ordwise

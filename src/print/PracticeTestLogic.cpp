@@ -1,0 +1,119 @@
+#include "PracticeTestLogic.hpp"
+
+#include "Catalogue.hpp"
+#include "NumberText.hpp"
+#include "Platform.hpp"
+#include "PracticeTestTopics.hpp"
+#include "PracticeWindow.hpp"
+#include "RandomDraws.hpp"
+#include "Workspace.hpp"
+
+namespace ordwise {
+namespace {
+
+constexpr int hourglass = 11;
+constexpr int usualCount = 2;  // the entry "3" of the numbers
+constexpr int largestSeed = 999999;
+
+enum KeyCode { keyEnter = 13, keyUp = 38, keyRight = 39, keyDown = 40 };
+
+// The slot that holds a topic, or with "" the first free one; -1 if there is none.
+int slotOf(std::string_view topic) {
+    for (int i = 0; i <= PracticeTestWindow::lastSection; ++i) {
+        if (frmPracticeTest.Text4[i].Text == topic) return i;
+    }
+    return -1;
+}
+
+void showChecks() {
+    for (PracticeTestWindow::ListItem& item : frmPracticeTest.IndexList) item.Checked = slotOf(item.Text) >= 0;
+}
+
+// Nothing happens when all slots are taken.
+void addTopic(std::string_view topic) {
+    const int free = slotOf("");
+    if (free >= 0) frmPracticeTest.Text4[free].Text = topic;
+    showChecks();
+}
+
+std::uint64_t seedOfWindow() {
+    const std::string& text = frmPracticeTest.Seed.Text;
+    const bool number = !text.empty() && text.size() <= 9 && text.find_first_not_of("0123456789") == text.npos;
+    if (number) return static_cast<std::uint64_t>(longOf(text));
+    (void)RandInt();  // looks at the clock
+    return static_cast<std::uint64_t>(drawBelow(largestSeed)) + 1;
+}
+
+}  // namespace
+
+void PracticeTest_Load() {
+    frmPracticeTest = PracticeTestWindow{};
+    for (const TreeRow& row : topicTree()) {
+        frmPracticeTest.TreeView1.push_back({std::string(row.parent), std::string(row.key), std::string(row.text),
+                                             row.key.empty() ? "book2" : "book1"});
+    }
+    for (const std::string_view name : indexList()) frmPracticeTest.IndexList.push_back({std::string(name), false});
+    for (ComboControl& count : frmPracticeTest.Combo1) count.ListIndex = usualCount;
+    frmPracticeTest.Text1.Text = "Halvern Ordwise";
+    frmPracticeTest.Text2.Text = "Practice Test";
+    frmPracticeTest.Text3.Text = platform.clock->today();
+    frmPracticeTest.Loaded = true;
+}
+
+void PracticeTest_Unload() {
+    frmPracticeTest.Loaded = false;
+}
+
+void PracticeIndexList_ItemCheck(int item) {
+    const auto& items = frmPracticeTest.IndexList;
+    if (item < 0 || item >= static_cast<int>(items.size())) return;
+    const std::string topic = items[static_cast<std::size_t>(item)].Text;
+    const int slot = slotOf(topic);
+    if (slot < 0) return addTopic(topic);
+    frmPracticeTest.Text4[slot].Text.clear();
+    showChecks();
+}
+
+void PracticeTree_NodeClick(std::string_view text) {
+    const bool isTopic = findTestTopic(text) != nullptr;
+    if (!isTopic || frmPracticeTest.ArrowKeyNavigation || slotOf(text) >= 0) return;
+    addTopic(text);
+}
+
+void PracticeTree_KeyDown(int keyCode, std::string_view current) {
+    frmPracticeTest.ArrowKeyNavigation = keyCode == keyUp || keyCode == keyRight || keyCode == keyDown;
+    if (keyCode == keyEnter) PracticeTree_NodeClick(current);
+}
+
+void PracticeCommand4_Click(int section) {
+    frmPracticeTest.Text4[section].Text.clear();
+    showChecks();
+}
+
+TestPlan planOfWindow() {
+    TestPlan plan;
+    plan.heading = {frmPracticeTest.Text1.Text, frmPracticeTest.Text2.Text, frmPracticeTest.Text3.Text};
+    for (int i = 0; i <= PracticeTestWindow::lastSection; ++i) {
+        const std::string& topic = frmPracticeTest.Text4[i].Text;
+        if (topic.empty()) continue;
+        plan.sections.push_back({topic, frmPracticeTest.Combo1[i].ListIndex + 1, frmPracticeTest.Check1[i].Checked});
+    }
+    plan.key = static_cast<AnswerKey>(frmPracticeTest.AnswerKey.ListIndex);
+    plan.versions = frmPracticeTest.Versions.ListIndex + 1;
+    plan.seed = seedOfWindow();
+    return plan;
+}
+
+void PracticeCommand2_Click() {
+    frmMain.MousePointer = hourglass;
+    const TestPlan plan = planOfWindow();
+    frmPrintPreview.Sheets = sheetsOf(plan, makeTests(plan));
+    frmMain.MousePointer = ws.NormalPointer;
+    platform.windows->show("frmPrintPreview");
+}
+
+void PracticeCommand1_Click() {
+    platform.windows->unload("frmPracticeTest");
+}
+
+}  // namespace ordwise
