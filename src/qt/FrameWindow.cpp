@@ -6,6 +6,7 @@
 #include "DeskView.hpp"
 #include "FrameCommands.hpp"
 #include "Motion.hpp"
+#include "SavedProblems.hpp"
 #include "SheetView.hpp"
 #include "StatusLine.hpp"
 #include "WindowRoutines.hpp"
@@ -52,8 +53,8 @@ std::vector<MenuRow> fileMenu() {
             {&frmMain.mnuPrint, nullptr, QKeySequence::Print},
             {&frmMain.mnuPrintSetup, nullptr, {}},
             {},
-            {&frmMain.mnuSave, nullptr, QKeySequence::Save},
-            {&frmMain.mnuLoad, nullptr, QKeySequence::Open},
+            {&frmMain.mnuSave, mnuSave_Click, QKeySequence::Save},
+            {&frmMain.mnuLoad, mnuLoad_Click, QKeySequence::Open},
             {}};
 }
 
@@ -95,8 +96,8 @@ bool isCheckable(const Control& menu) {
            &menu == &frmMain.mnuShowLight;
 }
 
-const ToolRow toolRows[] = {{MainWindow::buttonNew, mnuNew_Click},     {MainWindow::buttonSave, nullptr},
-                            {MainWindow::buttonOpen, nullptr},         {MainWindow::buttonPrint, nullptr},
+const ToolRow toolRows[] = {{MainWindow::buttonNew, mnuNew_Click},     {MainWindow::buttonSave, mnuSave_Click},
+                            {MainWindow::buttonOpen, mnuLoad_Click},   {MainWindow::buttonPrint, nullptr},
                             {MainWindow::buttonPractice, nullptr},     {MainWindow::buttonGraph, nullptr},
                             {MainWindow::buttonSolve, mnuSolve_Click}, {MainWindow::buttonExample, mnuExample_Click},
                             {MainWindow::buttonClear, mnuErase_Click}, {MainWindow::buttonRoot, insertKey<'~'>},
@@ -118,7 +119,11 @@ FrameWindow::FrameWindow()
     platform.dialogs = &dialogs_;
     platform.windows = &windows_;
     platform.clock = &clock_;
+    platform.files = &files_;
+    platform.fileDialogs = &fileDialogs_;
+    platform.folders = userFolders(environmentValue);
     dialogs_.parent = this;
+    fileDialogs_.parent = this;
     dialogs_.beforeDialog = [this] { stage_.show(); };
     stage_.showChanges = [this] { showChanges(); };
     setObjectName(QStringLiteral("frmMain"));

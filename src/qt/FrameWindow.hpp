@@ -1,6 +1,7 @@
 // frmMain: the frame with its menus, its toolbar and its status bar around the desk.
 #pragma once
 
+#include "DiskFiles.hpp"
 #include "QtPlatform.hpp"
 #include "Stage.hpp"
 #include "Windows.hpp"
@@ -62,6 +63,8 @@ private:
     Stage stage_;
     QtDialogs dialogs_;
     QtClock clock_;
+    QtFileDialogs fileDialogs_;
+    DiskFiles files_;
     Windows windows_{*this};
     Platform before_;
     DeskView* desk_;

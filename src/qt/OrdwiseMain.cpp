@@ -2,6 +2,7 @@
 #include "ExportCommand.hpp"
 #include "FrameWindow.hpp"
 #include "FreshProgram.hpp"
+#include "StartStop.hpp"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -95,7 +96,8 @@ int main(int argc, char** argv) {
          {QStringLiteral("box"), QStringLiteral("Fill box N of a box topic."), QStringLiteral("N=TEXT")},
          {QStringLiteral("combo"), QStringLiteral("Select entry INDEX of list N."), QStringLiteral("N=INDEX")},
          {QStringLiteral("answer"), QStringLiteral("Answer the next question of the solve."), QStringLiteral("TEXT")}});
-    parser.addPositionalArgument(QStringLiteral("topic"), QStringLiteral("A problem type, with --export."));
+    parser.addPositionalArgument(QStringLiteral("topic"),
+                                 QStringLiteral("A saved problem to open; with --export, a problem type."));
     parser.addPositionalArgument(QStringLiteral("problem"),
                                  QStringLiteral("The problem as it is typed, with --export."));
     parser.process(application);
@@ -103,6 +105,11 @@ int main(int argc, char** argv) {
 
     ordwise::startFreshProgram();
     ordwise::FrameWindow frame;
+    const QStringList arguments = parser.positionalArguments();
+    ordwise::startUp(arguments.isEmpty() ? std::string() : arguments.constFirst().toStdString());
+    frame.showChanges();
     frame.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    ordwise::shutDown();
+    return status;
 }

@@ -3,11 +3,46 @@
 #include "Art.hpp"
 
 #include <QDateTime>
+#include <QDir>
+#include <QFileDialog>
 #include <QInputDialog>
 #include <QLocale>
 #include <QMessageBox>
 
 namespace ordwise {
+namespace {
+
+// "Ordwise files (.hvx)|*.hvx" -> "Ordwise files (*.hvx)"
+QString nameFilter(const std::string& filter) {
+    const QString text = qstringOf(filter);
+    const QString description = text.section(QLatin1Char('|'), 0, 0).section(QStringLiteral(" ("), 0, 0);
+    return description + QStringLiteral(" (") + text.section(QLatin1Char('|'), 1, 1) + QLatin1Char(')');
+}
+
+std::optional<std::string> chosen(QFileDialog& dialog, const FileQuestion& question) {
+    dialog.setWindowTitle(qstringOf(question.title));
+    dialog.setNameFilter(nameFilter(question.filter));
+    dialog.setDefaultSuffix(qstringOf(question.defaultExtension));
+    if (!question.directory.empty()) dialog.setDirectory(qstringOf(question.directory));
+    if (!question.proposedName.empty()) dialog.selectFile(qstringOf(question.proposedName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
+}
+
+}  // namespace
+
+std::optional<std::string> QtFileDialogs::fileToSave(const FileQuestion& question) {
+    QFileDialog dialog(parent);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    return chosen(dialog, question);
+}
+
+std::optional<std::string> QtFileDialogs::fileToOpen(const FileQuestion& question) {
+    QFileDialog dialog(parent);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return chosen(dialog, question);
+}
 
 MessageAnswer QtDialogs::messageBox(std::string_view text, std::string_view caption, MessageButtons buttons) {
     if (beforeDialog) beforeDialog();

@@ -18,6 +18,14 @@ public:
     std::string inputBox(std::string_view prompt, std::string_view caption) override;
 };
 
+class QtFileDialogs : public FileDialogs {
+public:
+    QWidget* parent = nullptr;
+
+    std::optional<std::string> fileToSave(const FileQuestion& question) override;
+    std::optional<std::string> fileToOpen(const FileQuestion& question) override;
+};
+
 class QtClock : public Clock {
 public:
     [[nodiscard]] int minuteAndSecond() const override;
