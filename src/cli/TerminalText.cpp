@@ -1,6 +1,7 @@
 #include "TerminalText.hpp"
 
 #include "NumberText.hpp"
+#include "basFPrint.hpp"
 
 namespace ordwise {
 namespace {
@@ -42,18 +43,6 @@ std::string exponent(std::string_view content) {
     return "^" + (plain ? std::string(content) : "(" + std::string(content) + ")");
 }
 
-// The last "/" outside of parentheses, as the paper splits a fraction.
-std::size_t barOf(std::string_view content) {
-    int depth = 0;
-    std::size_t bar = std::string_view::npos;
-    for (std::size_t i = 0; i < content.size(); ++i) {
-        if (content[i] == '(') ++depth;
-        if (content[i] == ')') --depth;
-        if (content[i] == '/' && depth == 0) bar = i;
-    }
-    return bar;
-}
-
 // Numerators may be products: 2x/3 is the same read either way. A sum or a power is wrapped.
 std::string numerator(const std::string& text) {
     const bool product = !text.empty() && text.find_first_of("+-^ ", 1) == std::string::npos;
@@ -61,7 +50,7 @@ std::string numerator(const std::string& text) {
 }
 
 std::string fraction(std::string_view content) {
-    const std::size_t bar = barOf(content);
+    const std::size_t bar = fractionBar(content);
     if (bar == std::string_view::npos) return terminalText(content);
     return numerator(terminalText(content.substr(0, bar))) + "/" + wrapped(terminalText(content.substr(bar + 1)));
 }

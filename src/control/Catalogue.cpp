@@ -6,6 +6,7 @@
 #include "RandomDraws.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
+#include "basBreakdownFunc.hpp"
 
 #include <algorithm>
 
@@ -41,19 +42,13 @@ std::string hintOf(int code) {
     return "Enter a number.  Example: " + textOf(number);
 }
 
-int maskValue(std::string_view mask) {
-    int value = 0;
-    for (const char c : mask) value = value * 2 + (c == '1' ? 1 : 0);
-    return value;
-}
-
 void TreeViewSelect(std::string_view name, bool lookupOnly) {
     ws.MaxDigits = 5;
     ws.EquationMode = 0;
     ws.ProblemType = 0;
     if (const TopicRow* row = findTopic(name)) {
         ws.ProblemType = row->code;
-        if (!row->mask.empty()) ws.InputMask = maskValue(row->mask);
+        if (!row->mask.empty()) ws.InputMask = MaskValue(row->mask);
         ws.MaxDigits = row->maxDigits;
         ws.EquationMode = row->equationMode;
         if (row->graphable) ws.GraphableTopic = 1;

@@ -46,8 +46,6 @@ struct TreeRow {
 [[nodiscard]] std::vector<std::string_view> indexList();
 // The hint of a topic. Topics without a hint of their own get one with a random number in it.
 [[nodiscard]] std::string hintOf(int code);
-// A mask read as a binary number, leftmost digit highest. e.g. "00010000000001" -> 1025
-[[nodiscard]] int maskValue(std::string_view mask);
 
 // Makes a topic the problem: the only writer of the problem identity. A name that is in no row
 // gives code 0 and the chooser stays open. With `lookupOnly` the limits are set but neither

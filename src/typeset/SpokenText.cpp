@@ -1,6 +1,7 @@
 #include "SpokenText.hpp"
 
 #include "TextTools.hpp"
+#include "basFPrint.hpp"
 
 #include <algorithm>
 #include <array>
@@ -123,7 +124,7 @@ private:
     }
 
     void readFraction(std::string_view inside) {
-        const std::size_t bar = barOf(inside);
+        const std::size_t bar = fractionBar(inside);
         if (bar == std::string_view::npos) return;  // nothing is drawn either
         const std::string_view numerator = inside.substr(0, bar);
         const std::string_view denominator = inside.substr(bar + 1);
@@ -138,17 +139,6 @@ private:
     void readRadical(std::string_view inside) {
         sayWord("the square root of " + Reader(inside).read());
         if (!isOneTerm(inside)) out_ += ", end of root";
-    }
-
-    static std::size_t barOf(std::string_view text) {
-        int depth = 0;
-        std::size_t bar = std::string_view::npos;
-        for (std::size_t i = 0; i < text.size(); ++i) {
-            if (text[i] == '(') ++depth;
-            if (text[i] == ')') --depth;
-            if (text[i] == '/' && depth == 0) bar = i;
-        }
-        return bar;
     }
 
     static bool isOneTerm(std::string_view text) {

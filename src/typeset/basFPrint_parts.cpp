@@ -15,15 +15,9 @@ constexpr std::size_t longestPart = 50;
 // Where a radical sign of ordinary height stands.
 constexpr double signLeft = 2;
 
-// "a/(b/c)" -> "a", "(b/c)": the last "/" outside of parentheses; without one both are empty.
+// "a/(b/c)" -> "a", "(b/c)"; without a bar both are empty.
 std::pair<std::string_view, std::string_view> halvesOf(std::string_view text) {
-    int depth = 0;
-    std::size_t bar = std::string_view::npos;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '(') ++depth;
-        if (text[i] == ')') --depth;
-        if (text[i] == '/' && depth == 0) bar = i;
-    }
+    const std::size_t bar = fractionBar(text);
     if (bar == std::string_view::npos) return {};
     return {text.substr(0, bar), text.substr(bar + 1)};
 }
@@ -50,6 +44,17 @@ std::string_view partAt(std::string_view text, std::size_t at) {
 }
 
 }  // namespace
+
+std::size_t fractionBar(std::string_view text) {
+    int depth = 0;
+    std::size_t bar = std::string_view::npos;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '(') ++depth;
+        if (text[i] == ')') --depth;
+        if (text[i] == '/' && depth == 0) bar = i;
+    }
+    return bar;
+}
 
 void MathLineRenderer::PrintExponent(std::string_view text) {
     const double size = surface_->FontSize;
