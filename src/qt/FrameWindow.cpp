@@ -1,15 +1,12 @@
 #include "FrameWindow.hpp"
 
 #include "Art.hpp"
-#include "ChooserDialog.hpp"
 #include "DeskEvents.hpp"
 #include "DeskView.hpp"
-#include "FrameCommands.hpp"
+#include "FrameMenus.hpp"
 #include "Motion.hpp"
-#include "SavedProblems.hpp"
 #include "SheetView.hpp"
 #include "StatusLine.hpp"
-#include "WindowRoutines.hpp"
 #include "Workspace.hpp"
 
 #include <QAction>
@@ -22,97 +19,6 @@
 #include <QToolBar>
 
 namespace ordwise {
-namespace {
-
-using Routine = void (*)();
-
-// A menu entry: its control, what it runs, its keys. Without a routine it is not there yet, and its
-// tool tip says so; without a control it separates.
-struct MenuRow {
-    const Control* control;
-    Routine routine;
-    QKeySequence keys;
-};
-
-struct ToolRow {
-    int button;
-    Routine routine;
-};
-
-constexpr const char* notYet = "This command is not part of this version yet.";
-
-template <char character>
-void insertKey() {
-    constexpr char text[] = {character, '\0'};
-    insertCharacter(text);
-}
-
-std::vector<MenuRow> fileMenu() {
-    return {{&frmMain.mnuNew, mnuNew_Click, QKeySequence::New},
-            {},
-            {&frmMain.mnuPrint, nullptr, QKeySequence::Print},
-            {&frmMain.mnuPrintSetup, nullptr, {}},
-            {},
-            {&frmMain.mnuSave, mnuSave_Click, QKeySequence::Save},
-            {&frmMain.mnuLoad, mnuLoad_Click, QKeySequence::Open},
-            {}};
-}
-
-std::vector<MenuRow> toolsMenu() {
-    return {{&frmMain.mnuSolve, mnuSolve_Click, Qt::Key_F5},
-            {&frmMain.mnuExample, mnuExample_Click, Qt::Key_F6},
-            {&frmMain.mnuErase, mnuErase_Click, QKeySequence(Qt::CTRL | Qt::Key_Delete)},
-            {},
-            {&frmMain.mnuGraph, nullptr, {}},
-            {&frmMain.mnuPracticeTest, nullptr, {}},
-            {},
-            {&frmMain.mnuExp, mnuExp_Click, Qt::Key_F2}};
-}
-
-std::vector<MenuRow> functionsMenu() {
-    return {{&frmMain.mnuSquareRoot, insertKey<'~'>, QKeySequence(Qt::CTRL | Qt::Key_R)},
-            {&frmMain.mnuExponet, insertKey<'^'>, QKeySequence(Qt::CTRL | Qt::Key_E)},
-            {&frmMain.mnuAbsValue, insertKey<'|'>, {}},
-            {},
-            {&frmMain.mnuAddition, insertKey<'+'>, {}},
-            {&frmMain.mnuSubtraction, insertKey<'-'>, {}},
-            {&frmMain.mnuMultiplication, insertKey<'*'>, {}},
-            {&frmMain.mnuDivision, insertKey<'/'>, {}},
-            {},
-            {&frmMain.mnuConvertDF, mnuConvertDF_Click, {}}};
-}
-
-std::vector<MenuRow> optionsMenu() {
-    return {{&frmMain.mnuPencil, mnuPencil_Click, {}},
-            {&frmMain.mnuShowStep, mnuShowStep_Click, {}},
-            {&frmMain.mnuHideWiz, mnuHideWiz_Click, {}},
-            {&frmMain.mnuShowLight, mnuShowLight_Click, {}},
-            {},
-            {&frmMain.mnuChange, nullptr, {}}};
-}
-
-bool isCheckable(const Control& menu) {
-    return &menu == &frmMain.mnuPencil || &menu == &frmMain.mnuShowStep || &menu == &frmMain.mnuHideWiz ||
-           &menu == &frmMain.mnuShowLight;
-}
-
-const ToolRow toolRows[] = {{MainWindow::buttonNew, mnuNew_Click},     {MainWindow::buttonSave, mnuSave_Click},
-                            {MainWindow::buttonOpen, mnuLoad_Click},   {MainWindow::buttonPrint, nullptr},
-                            {MainWindow::buttonPractice, nullptr},     {MainWindow::buttonGraph, nullptr},
-                            {MainWindow::buttonSolve, mnuSolve_Click}, {MainWindow::buttonExample, mnuExample_Click},
-                            {MainWindow::buttonClear, mnuErase_Click}, {MainWindow::buttonRoot, insertKey<'~'>},
-                            {MainWindow::buttonPower, insertKey<'^'>}, {MainWindow::buttonFracdec, mnuConvertDF_Click},
-                            {MainWindow::buttonWeb, nullptr}};
-
-bool landed(int button) {
-    for (const ToolRow& row : toolRows) {
-        if (row.button == button) return row.routine != nullptr;
-    }
-    return false;
-}
-
-}  // namespace
-
 FrameWindow::FrameWindow()
     : before_(platform), desk_(nullptr), scroll_(new QScrollArea(this)), status_(new StatusLine(this)) {
     platform = Platform{};
@@ -125,7 +31,10 @@ FrameWindow::FrameWindow()
     dialogs_.parent = this;
     fileDialogs_.parent = this;
     dialogs_.beforeDialog = [this] { stage_.show(); };
-    stage_.showChanges = [this] { showChanges(); };
+    stage_.showChanges = [this] {
+        showChanges();
+        windows_.showChanges();
+    };
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(qstringOf(frmMain.Caption));
     setWindowIcon(artIcon("ordwise"));
@@ -152,40 +61,28 @@ FrameWindow::~FrameWindow() {
 }
 
 void FrameWindow::addMenus() {
-    const std::pair<const Control*, std::vector<MenuRow>> menus[] = {{&frmMain.mnuFile, fileMenu()},
-                                                                     {&frmMain.mnuCreate, toolsMenu()},
-                                                                     {&frmMain.mnuSpecial, functionsMenu()},
-                                                                     {&frmMain.mnuOptions, optionsMenu()}};
-    for (const auto& [title, rows] : menus) {
-        QMenu* menu = menuBar()->addMenu(qstringOf(title->Text));
+    for (const MenuTable& table : frameMenus()) {
+        QMenu* menu = menuBar()->addMenu(qstringOf(table.title->Text));
         menu->setToolTipsVisible(true);
-        for (const MenuRow& row : rows) {
-            if (row.control == nullptr) {
-                menu->addSeparator();
-                continue;
-            }
-            QAction* action = menu->addAction(qstringOf(row.control->Text));
-            action->setShortcut(row.keys);
-            action->setCheckable(isCheckable(*row.control));
-            action->setData(row.routine != nullptr);
-            if (const Routine routine = row.routine)
-                connect(action, &QAction::triggered, this, [this, routine] { stage_.perform(routine); });
-            menuActions_.emplace_back(row.control, action);
-        }
-        if (title == &frmMain.mnuFile) {
-            QAction* exit = menu->addAction(qstringOf(frmMain.mnuExit.Text), QKeySequence::Quit, this, &QWidget::close);
-            exit->setData(true);
-            menuActions_.emplace_back(&frmMain.mnuExit, exit);
-        }
+        for (const MenuRow& row : table.rows) addMenuRow(*menu, row);
     }
     addViewMenu();
-    QMenu* help = menuBar()->addMenu(QStringLiteral("&Help"));
-    help->setToolTipsVisible(true);
-    for (const char* entry : {"Help Topics", "&About Ordwise"}) {
-        QAction* action = help->addAction(QString::fromLatin1(entry));
-        action->setEnabled(false);
-        action->setToolTip(QString::fromLatin1(notYet));
+}
+
+void FrameWindow::addMenuRow(QMenu& menu, const MenuRow& row) {
+    if (row.control == nullptr) {
+        menu.addSeparator();
+        return;
     }
+    QAction* action = menu.addAction(qstringOf(row.control->Text));
+    action->setShortcut(row.keys);
+    action->setCheckable(row.checkable);
+    if (row.control == &frmMain.mnuExit) {
+        connect(action, &QAction::triggered, this, &QWidget::close);
+    } else {
+        connect(action, &QAction::triggered, this, [this, row] { stage_.perform(row.routine); });
+    }
+    menuActions_.emplace_back(row.control, action);
 }
 
 void FrameWindow::addViewMenu() {
@@ -215,7 +112,7 @@ void FrameWindow::addToolbar() {
     toolbar_->setMovable(false);
     toolbar_->setIconSize(QSize(32, 32));
     int last = 0;
-    for (const ToolRow& row : toolRows) {
+    for (const ToolRow& row : toolbarRows()) {
         if (last != 0 && row.button > last + 1) toolbar_->addSeparator();
         last = row.button;
         const ToolbarButton& button = frmMain.Toolbar1[row.button];
@@ -242,22 +139,19 @@ QAction* FrameWindow::toolbarAction(int button) const {
     return nullptr;
 }
 
-void FrameWindow::showAction(QAction& action, bool enabled, const QString& tip, bool isLanded) {
-    action.setEnabled(enabled && isLanded);
-    action.setToolTip(isLanded ? tip : tip + QStringLiteral("\n") + QString::fromLatin1(notYet));
-}
-
 void FrameWindow::showChanges() {
     setWindowTitle(qstringOf(frmPaper.Loaded ? ws.TopicName + " - " + frmMain.Caption : frmMain.Caption));
     for (const auto& [control, action] : menuActions_) {
         QString tip = action->text();
         tip.remove(QLatin1Char('&'));
-        showAction(*action, control->Enabled, tip, action->data().toBool());
+        action->setEnabled(control->Enabled);
+        action->setToolTip(tip);
         if (action->isCheckable()) action->setChecked(control->Checked);
     }
     for (const auto& [index, action] : toolActions_) {
         const ToolbarButton& button = frmMain.Toolbar1[index];
-        showAction(*action, button.Enabled, qstringOf(button.ToolTip), landed(index));
+        action->setEnabled(button.Enabled && button.Key != "web");
+        action->setToolTip(qstringOf(button.ToolTip));
         if (action->property("image").toString() == qstringOf(button.Image)) continue;
         action->setProperty("image", qstringOf(button.Image));
         action->setIcon(artIcon(button.Image));
@@ -286,26 +180,10 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
 }
 
-void FrameWindow::Windows::show(std::string_view name) {
-    loadWindow(name);
-    if (name == "frmSelect") frame_.runChooser();
-    if (name == "frmPaper") {
-        frame_.sheetInView_ = 0;
-        frame_.stage_.show();
-        frame_.desk_->takeKeys();
-    }
-}
-
-void FrameWindow::Windows::unload(std::string_view name) {
-    unloadWindow(name);
-}
-
-void FrameWindow::runChooser() {
-    ChooserDialog dialog(this);
-    chooser_ = &dialog;
-    dialog.exec();
-    chooser_ = nullptr;
-    unloadWindow("frmSelect");
+void FrameWindow::showFreshSheets() {
+    sheetInView_ = 0;
+    stage_.show();
+    desk_->takeKeys();
 }
 
 }  // namespace ordwise

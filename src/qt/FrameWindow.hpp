@@ -1,6 +1,7 @@
 // frmMain: the frame with its menus, its toolbar and its status bar around the desk.
 #pragma once
 
+#include "DeskWindows.hpp"
 #include "DiskFiles.hpp"
 #include "QtPlatform.hpp"
 #include "Stage.hpp"
@@ -12,14 +13,15 @@
 #include <vector>
 
 class QAction;
+class QMenu;
 class QScrollArea;
 class QToolBar;
 
 namespace ordwise {
 
-class ChooserDialog;
 class DeskView;
 class StatusLine;
+struct MenuRow;
 
 class FrameWindow : public QMainWindow {
 public:
@@ -32,32 +34,21 @@ public:
     // The action of a menu command, e.g. actionOf(frmMain.mnuSolve); null for one that is no command.
     [[nodiscard]] QAction* actionOf(const Control& menu) const;
     [[nodiscard]] QAction* toolbarAction(int button) const;
-    // The chooser while it is open, else null.
-    [[nodiscard]] ChooserDialog* chooser() const { return chooser_; }
+    [[nodiscard]] const DeskWindows& windows() const { return windows_; }
 
     void showChanges();
+    // After a worksheet was laid out afresh: shows it and gives it the keyboard.
+    void showFreshSheets();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    // Opens and closes windows by the names that the logic gives them.
-    class Windows : public WindowOpener {
-    public:
-        explicit Windows(FrameWindow& frame) : frame_(frame) {}
-        void show(std::string_view name) override;
-        void unload(std::string_view name) override;
-
-    private:
-        FrameWindow& frame_;
-    };
-
     void addMenus();
+    void addMenuRow(QMenu& menu, const MenuRow& row);
     void addViewMenu();
     void addToolbar();
     void zoomBy(double factor);
-    void showAction(QAction& action, bool enabled, const QString& tip, bool landed);
-    void runChooser();
     void followLine();
 
     Stage stage_;
@@ -65,13 +56,12 @@ private:
     QtClock clock_;
     QtFileDialogs fileDialogs_;
     DiskFiles files_;
-    Windows windows_{*this};
+    DeskWindows windows_{*this, stage_};
     Platform before_;
     DeskView* desk_;
     QScrollArea* scroll_;
     StatusLine* status_;
     QToolBar* toolbar_ = nullptr;
-    ChooserDialog* chooser_ = nullptr;
     std::vector<std::pair<const Control*, QAction*>> menuActions_;
     std::vector<std::pair<int, QAction*>> toolActions_;
     int sheetInView_ = 0;

@@ -42,6 +42,26 @@ void mnuExp_Click() {
     if (!ws.StepNotes[ws.ShownStep].empty()) platform.windows->show("frmExplain");
 }
 
+void mnuPrint_Click() {
+    platform.windows->show("frmPrintSetup");
+}
+
+void mnuPrintSetup_Click() {
+    if (platform.printer != nullptr) platform.printer->setup();
+}
+
+void mnuGraph_Click() {
+    platform.windows->show("frmGraph");
+}
+
+void mnuPracticeTest_Click() {
+    platform.windows->show("frmPracticeTest");
+}
+
+void mnuChange_Click() {
+    platform.windows->show("frmOptions");
+}
+
 void insertCharacter(std::string_view character) {
     Form_KeyPress(character);
 }

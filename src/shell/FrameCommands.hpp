@@ -15,6 +15,13 @@ void mnuExample_Click();
 void mnuErase_Click();
 void mnuExp_Click();
 
+// The commands that open a window of their own.
+void mnuPrint_Click();
+void mnuPrintSetup_Click();  // the printer's own dialog; nothing where there is no printer
+void mnuGraph_Click();
+void mnuPracticeTest_Click();
+void mnuChange_Click();  // the settings
+
 // Inserts a character as if it were typed: "~", "^", "|", "+", "-", "*" or "/".
 void insertCharacter(std::string_view character);
 

@@ -4,8 +4,13 @@
 #include "ChooserWindow.hpp"
 #include "ExplainWindow.hpp"
 #include "ExplanationWindow.hpp"
+#include "GraphCommands.hpp"
+#include "GraphWindow.hpp"
 #include "OptionsLogic.hpp"
 #include "PracticeTestLogic.hpp"
+#include "PrintPreview.hpp"
+#include "PrintWindows.hpp"
+#include "Printing.hpp"
 #include "StartStop.hpp"
 #include "Windows.hpp"
 #include "WorksheetLayout.hpp"
@@ -21,7 +26,7 @@ struct WindowRow {
     void (*unload)();
 };
 
-constexpr std::array<WindowRow, 6> windowRows{{
+constexpr std::array<WindowRow, 9> windowRows{{
     {"frmPaper", [] { Form_Load(); },
      [] {
          if (frmPaper.Loaded) Form_Unload();
@@ -40,6 +45,15 @@ constexpr std::array<WindowRow, 6> windowRows{{
          ShowExplanation();
      },
      [] { frmExplain.Loaded = false; }},
+    {"frmGraph", [] { frmGraph_Load(); },  // also when it is open: the problem may be another one
+     [] {
+         if (frmGraph.Loaded) frmGraph_Unload();
+     }},
+    {"frmPrintSetup", [] { frmPrintSetup_Load(); }, [] { frmPrintSetup.Loaded = false; }},
+    {"frmPrintPreview", [] { frmPrintPreview_Load(); },
+     [] {
+         if (frmPrintPreview.Loaded) frmPrintPreview_Unload();
+     }},
     {"frmLogo", [] { Logo_Load(); }, [] { Logo_Unload(); }},
     {"frmOptions", [] { Options_Load(); }, [] { Options_Unload(); }},
     {"frmPracticeTest", [] { PracticeTest_Load(); }, [] { PracticeTest_Unload(); }},

@@ -1,0 +1,87 @@
+#include "DeskWindows.hpp"
+
+#include "ChooserDialog.hpp"
+#include "FrameWindow.hpp"
+#include "Stage.hpp"
+#include "WindowRoutines.hpp"
+
+#include <QDialog>
+
+#include <algorithm>
+#include <iterator>
+
+namespace ordwise {
+
+struct DeskWindows::Row {
+    std::string_view name;
+    bool modal;
+    QWidget* (*make)(QWidget* frame, Stage& stage);
+};
+
+const DeskWindows::Row DeskWindows::rows[] = {
+    {"frmSelect", true, [](QWidget* frame, Stage&) -> QWidget* { return new ChooserDialog(frame); }},
+};
+
+void DeskWindows::show(std::string_view name) {
+    loadWindow(name);
+    if (name == "frmPaper") frame_.showFreshSheets();
+    const auto* const row =
+        std::find_if(std::begin(rows), std::end(rows), [name](const Row& candidate) { return candidate.name == name; });
+    if (row == std::end(rows)) return;
+    if (row->modal) {
+        runModal(*row);
+    } else {
+        showBeside(*row);
+    }
+}
+
+void DeskWindows::runModal(const Row& row) {
+    stage_.show();
+    const QPointer<QWidget> widget = row.make(&frame_, stage_);
+    open_[std::string(row.name)] = widget;
+    auto* dialog = qobject_cast<QDialog*>(widget);
+    Q_ASSERT(dialog != nullptr);
+    dialog->exec();
+    open_.erase(std::string(row.name));
+    delete widget;
+    unloadWindow(row.name);
+}
+
+void DeskWindows::showBeside(const Row& row) {
+    QPointer<QWidget>& widget = open_[std::string(row.name)];
+    if (widget.isNull()) widget = row.make(&frame_, stage_);
+    widget->show();
+    widget->raise();
+    widget->activateWindow();
+}
+
+// A modal widget only hides: whoever runs it still holds it.
+void DeskWindows::unload(std::string_view name) {
+    unloadWindow(name);
+    QWidget* const widget = open(name);
+    if (widget == nullptr) return;
+    if (auto* dialog = qobject_cast<QDialog*>(widget); dialog != nullptr && dialog->isModal()) {
+        dialog->done(QDialog::Rejected);
+    } else {
+        open_.erase(std::string(name));
+        widget->hide();
+        widget->deleteLater();
+    }
+}
+
+void DeskWindows::redraw(std::string_view /*name*/) {
+    stage_.show();
+}
+
+void DeskWindows::showChanges() const {
+    for (const auto& [name, widget] : open_) {
+        if (auto* view = dynamic_cast<WindowView*>(widget.data())) view->showChanges();
+    }
+}
+
+QWidget* DeskWindows::open(std::string_view name) const {
+    const auto found = open_.find(name);
+    return found == open_.end() ? nullptr : found->second.data();
+}
+
+}  // namespace ordwise

@@ -1,0 +1,86 @@
+#include "FrameMenus.hpp"
+
+#include "FrameCommands.hpp"
+#include "SavedProblems.hpp"
+
+namespace ordwise {
+namespace {
+
+template <char character>
+void insertKey() {
+    constexpr char text[] = {character, '\0'};
+    insertCharacter(text);
+}
+
+MenuTable fileMenu() {
+    return {&frmMain.mnuFile,
+            {{&frmMain.mnuNew, mnuNew_Click, QKeySequence::New},
+             {},
+             {&frmMain.mnuPrint, mnuPrint_Click, QKeySequence::Print},
+             {&frmMain.mnuPrintSetup, mnuPrintSetup_Click, {}},
+             {},
+             {&frmMain.mnuSave, mnuSave_Click, QKeySequence::Save},
+             {&frmMain.mnuLoad, mnuLoad_Click, QKeySequence::Open},
+             {},
+             {&frmMain.mnuExit, nullptr, QKeySequence::Quit}}};
+}
+
+MenuTable toolsMenu() {
+    return {&frmMain.mnuCreate,
+            {{&frmMain.mnuSolve, mnuSolve_Click, Qt::Key_F5},
+             {&frmMain.mnuExample, mnuExample_Click, Qt::Key_F6},
+             {&frmMain.mnuErase, mnuErase_Click, QKeySequence(Qt::CTRL | Qt::Key_Delete)},
+             {},
+             {&frmMain.mnuGraph, mnuGraph_Click, QKeySequence(Qt::CTRL | Qt::Key_G)},
+             {&frmMain.mnuPracticeTest, mnuPracticeTest_Click, QKeySequence(Qt::CTRL | Qt::Key_T)},
+             {},
+             {&frmMain.mnuExp, mnuExp_Click, Qt::Key_F2}}};
+}
+
+MenuTable functionsMenu() {
+    return {&frmMain.mnuSpecial,
+            {{&frmMain.mnuSquareRoot, insertKey<'~'>, QKeySequence(Qt::CTRL | Qt::Key_R)},
+             {&frmMain.mnuExponet, insertKey<'^'>, QKeySequence(Qt::CTRL | Qt::Key_E)},
+             {&frmMain.mnuAbsValue, insertKey<'|'>, {}},
+             {},
+             {&frmMain.mnuAddition, insertKey<'+'>, {}},
+             {&frmMain.mnuSubtraction, insertKey<'-'>, {}},
+             {&frmMain.mnuMultiplication, insertKey<'*'>, {}},
+             {&frmMain.mnuDivision, insertKey<'/'>, {}},
+             {},
+             {&frmMain.mnuConvertDF, mnuConvertDF_Click, {}}}};
+}
+
+MenuTable optionsMenu() {
+    return {&frmMain.mnuOptions,
+            {{&frmMain.mnuPencil, mnuPencil_Click, {}, true},
+             {&frmMain.mnuShowStep, mnuShowStep_Click, {}, true},
+             {&frmMain.mnuHideWiz, mnuHideWiz_Click, {}, true},
+             {&frmMain.mnuShowLight, mnuShowLight_Click, {}, true},
+             {},
+             {&frmMain.mnuChange, mnuChange_Click, {}}}};
+}
+
+}  // namespace
+
+std::vector<MenuTable> frameMenus() {
+    return {fileMenu(), toolsMenu(), functionsMenu(), optionsMenu()};
+}
+
+std::vector<ToolRow> toolbarRows() {
+    return {{MainWindow::buttonNew, mnuNew_Click},
+            {MainWindow::buttonSave, mnuSave_Click},
+            {MainWindow::buttonOpen, mnuLoad_Click},
+            {MainWindow::buttonPrint, mnuPrint_Click},
+            {MainWindow::buttonPractice, mnuPracticeTest_Click},
+            {MainWindow::buttonGraph, mnuGraph_Click},
+            {MainWindow::buttonSolve, mnuSolve_Click},
+            {MainWindow::buttonExample, mnuExample_Click},
+            {MainWindow::buttonClear, mnuErase_Click},
+            {MainWindow::buttonRoot, insertKey<'~'>},
+            {MainWindow::buttonPower, insertKey<'^'>},
+            {MainWindow::buttonFracdec, mnuConvertDF_Click},
+            {MainWindow::buttonWeb, nullptr}};
+}
+
+}  // namespace ordwise

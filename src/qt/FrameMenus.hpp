@@ -1,0 +1,38 @@
+// The menus and the toolbar of the frame as tables: which control or button stands where, what it
+// runs and by which keys.
+#pragma once
+
+#include "Windows.hpp"
+
+#include <QKeySequence>
+
+#include <vector>
+
+namespace ordwise {
+
+using Routine = void (*)();
+
+// A menu entry. Without a control it separates; mnuExit has no routine, the frame closes itself.
+struct MenuRow {
+    const Control* control = nullptr;
+    Routine routine = nullptr;
+    QKeySequence keys;
+    bool checkable = false;
+};
+
+struct MenuTable {
+    const Control* title;
+    std::vector<MenuRow> rows;
+};
+
+// In the order of the menu bar.
+[[nodiscard]] std::vector<MenuTable> frameMenus();
+
+struct ToolRow {
+    int button;  // of MainWindow::Button; a gap in the numbers is a separator
+    Routine routine;
+};
+
+[[nodiscard]] std::vector<ToolRow> toolbarRows();
+
+}  // namespace ordwise
