@@ -85,9 +85,17 @@ public:
         painter_.drawGlyphRun(QPointF(), glyphRun);
     }
 
+    // A stroke that begins where the last one ended goes on with it, so that a traced curve is one
+    // line without notches or knots where its segments meet.
     void operator()(const Stroke& stroke) {
-        painter_.setPen(QPen(colourOf(stroke.colour), stroke.width));
-        painter_.drawLine(QPointF(stroke.x1, stroke.y1), QPointF(stroke.x2, stroke.y2));
+        const QPointF from(stroke.x1, stroke.y1);
+        const QPen pen(colourOf(stroke.colour), stroke.width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin);
+        if (path_.isEmpty() || path_.last() != from || pen != pen_) {
+            finishPath();
+            pen_ = pen;
+            path_ << from;
+        }
+        path_ << QPointF(stroke.x2, stroke.y2);
     }
 
     void operator()(const Circle& circle) {
@@ -96,12 +104,22 @@ public:
         painter_.drawEllipse(QPointF(circle.x, circle.y), circle.radius, circle.radius);
     }
 
+    // Draws the strokes that are still held back for others to join them.
+    void finishPath() {
+        if (path_.isEmpty()) return;
+        painter_.setPen(pen_);
+        painter_.drawPolyline(path_);
+        path_.clear();
+    }
+
     void operator()(const Picture& picture) {
         paintArt(painter_, picture.key, QRectF(picture.x, picture.y, picture.width, picture.height));
     }
 
 private:
     QPainter& painter_;
+    QPolygonF path_;
+    QPen pen_;
 };
 
 struct Extent {
@@ -131,7 +149,11 @@ void replay(const DisplayList& list, QPainter& painter) {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     OperationPainter paint(painter);
-    for (const DrawOperation& operation : list) std::visit(paint, operation);
+    for (const DrawOperation& operation : list) {
+        if (!std::holds_alternative<Stroke>(operation)) paint.finishPath();
+        std::visit(paint, operation);
+    }
+    paint.finishPath();
     painter.restore();
 }
 
