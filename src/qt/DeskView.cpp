@@ -95,8 +95,8 @@ DeskView::DeskView(QWidget* parent, Stage& stage)
         if (draggedBy_ < clickSlack) stage_.perform(Wizard_Click);
     });
     QObject::connect(click_, &QAbstractButton::clicked, this, [this] { stage_.perform(Click_MouseUp); });
-    QObject::connect(&blink_, &QTimer::timeout, this, [this] { stage_.perform(Timer2_Timer); });
-    QObject::connect(&signal_, &QTimer::timeout, this, [this] { stage_.perform(clickMe_Timer); });
+    QObject::connect(&blink_, &QTimer::timeout, this, [this] { stage_.tick(Timer2_Timer); });
+    QObject::connect(&signal_, &QTimer::timeout, this, [this] { stage_.tick(clickMe_Timer); });
 }
 
 void DeskView::setSteady(bool steady) {

@@ -41,7 +41,7 @@ void DeskWindows::runModal(const Row& row) {
     open_[std::string(row.name)] = widget;
     auto* dialog = qobject_cast<QDialog*>(widget);
     Q_ASSERT(dialog != nullptr);
-    dialog->exec();
+    stage_.runDialog([dialog] { dialog->exec(); });
     open_.erase(std::string(row.name));
     delete widget;
     unloadWindow(row.name);

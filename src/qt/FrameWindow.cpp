@@ -156,8 +156,7 @@ void FrameWindow::showChanges() {
         action->setProperty("image", qstringOf(button.Image));
         action->setIcon(artIcon(button.Image));
     }
-    const bool refused = frmPaper.Loaded && frmPaper.Light.Image == "light3";
-    status_->showSentence(qstringOf(ordwise::statusLine()), refused);
+    status_->showSentence(qstringOf(ordwise::statusLine()), statusIsRefusal());
     desk_->showChanges();
     if (frmPaper.Loaded && sheetInView_ != ws.CurrentSheet) {
         sheetInView_ = ws.CurrentSheet;

@@ -103,11 +103,16 @@ void Box_KeyPress(int number, std::string_view key) {
 }
 
 std::string statusLine() {
+    if (!frmMain.StatusText.empty()) return frmMain.StatusText;
     if (!frmPaper.Loaded) return "Press Ctrl+N or choose New Problem to begin.";
     if (lightIsRed()) return ws.ExplainOverrideText;
     if (ws.InputOpen) return asTyped(ws.HintText);
     if (frmPaper.Paper[ws.CurrentSheet].blinker.Visible) return "Press Enter or click Next Step to go on.";
     return "Erase the problem to enter another one, or choose New Problem.";
+}
+
+bool statusIsRefusal() {
+    return frmMain.StatusText.empty() && frmPaper.Loaded && lightIsRed();
 }
 
 std::string spokenLineInView() {

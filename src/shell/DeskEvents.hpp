@@ -25,9 +25,10 @@ void Wizard_MouseUp(double width, double height);
 // A key in a box, with the light as on the paper: green, or red when it is refused.
 void Box_KeyPress(int number, std::string_view key);
 
-// What the status bar says: the reason of a refusal as long as the light is red, otherwise what can
-// be done next.
+// What the status bar says: news of the last command, else the reason of a refusal as long as the
+// light is red, otherwise what can be done next.
 [[nodiscard]] std::string statusLine();
+[[nodiscard]] bool statusIsRefusal();
 
 // The mathematics in view in words: the step shown last, or what has been typed so far.
 [[nodiscard]] std::string spokenLineInView();

@@ -95,6 +95,11 @@ TEST_F(DeskEvents, a_box_tells_by_the_light_what_it_refuses) {
     EXPECT_EQ(frmPaper.Light.Image, "light3");
     EXPECT_EQ(frmPaper.Text2.Text, "4");
     EXPECT_EQ(statusLine(), ws.ExplainOverrideText);
+    EXPECT_TRUE(statusIsRefusal());
+    frmMain.StatusText = "Saved.";
+    EXPECT_EQ(statusLine(), "Saved.");
+    EXPECT_FALSE(statusIsRefusal()) << "news is no refusal, though the light is red";
+    frmMain.StatusText.clear();
     EXPECT_NE(statusLine(), "");
 }
 
