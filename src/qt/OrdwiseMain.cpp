@@ -16,7 +16,7 @@ namespace {
 
 // Pictures and words about the program need a painter and fonts, but no display.
 bool needsNoDisplay(int argc, char** argv) {
-    constexpr std::string_view words[] = {"--export", "--help", "-h", "--version", "-v"};
+    constexpr std::string_view words[] = {"--export", "--help", "--help-all", "-h", "--version", "-v"};
     return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
         const std::string_view name = argument.substr(0, argument.find('='));
         return std::find(std::begin(words), std::end(words), name) != std::end(words);
@@ -85,6 +85,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Ordwise"));
     QApplication::setOrganizationName(QStringLiteral("Halvern"));
     QApplication::setApplicationVersion(QStringLiteral(ORDWISE_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("ordwise"));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Desktop tutor and solver for school mathematics."));

@@ -1,0 +1,20 @@
+# The icons of the program and of its files, drawn from their SVG in every size of the hicolor theme.
+find_package(Qt6 REQUIRED COMPONENTS Svg)
+add_executable(render_icon RenderIcon.cpp)
+target_link_libraries(render_icon PRIVATE Qt6::Svg ordwise_flags)
+
+function(installed_icons picture context name)
+  set(theme ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor)
+  foreach(size 16 22 24 32 48 64 96 128 256 512)
+    set(icon ${CMAKE_CURRENT_BINARY_DIR}/icons/${name}-${size}.png)
+    add_custom_command(OUTPUT ${icon} DEPENDS ${picture} COMMAND render_icon ${picture} ${size} ${icon} VERBATIM)
+    list(APPEND icons ${icon})
+    install(FILES ${icon} DESTINATION ${theme}/${size}x${size}/${context} RENAME ${name}.png COMPONENT ordwise)
+  endforeach()
+  install(FILES ${picture} DESTINATION ${theme}/scalable/${context} RENAME ${name}.svg COMPONENT ordwise)
+  add_custom_target(icons_${name} ALL DEPENDS ${icons})
+endfunction()
+
+file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/icons)
+installed_icons(${PROJECT_SOURCE_DIR}/data/art/ordwise.svg apps ordwise)
+installed_icons(${CMAKE_CURRENT_SOURCE_DIR}/problem.svg mimetypes application-x-ordwise-problem)
