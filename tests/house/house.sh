@@ -42,7 +42,7 @@ formatted() {
         echo "Formatting is not checked: there is no clang-format 14 here."
         exit 0
     fi
-    find src tests bench fuzz -name '*.?pp' -print0 2>/dev/null | xargs -0 clang-format --dry-run --Werror || failed=1
+    find src tests bench fuzz packaging -name '*.?pp' -print0 2>/dev/null | xargs -0 clang-format --dry-run --Werror || failed=1
 }
 
 case ${1:-} in
