@@ -168,6 +168,7 @@ std::string countedText(const std::vector<std::string>& primes) {
         }
     }
     std::vector<std::string> powers;
+    powers.reserve(counts.size());
     for (const auto& [prime, count] : counts) powers.push_back(prime + "^" + textOf(count));
     return joined(powers, "*");
 }

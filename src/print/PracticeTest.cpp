@@ -39,6 +39,7 @@ void addSection(const TestSection& section, std::vector<TestProblem>& problems) 
 
 std::vector<std::string> testLines() {
     std::vector<std::string> lines;
+    lines.reserve(static_cast<std::size_t>(ws.TestCount));
     for (int i = 0; i < ws.TestCount; ++i) lines.push_back(ws.TestProblems[i]);
     return lines;
 }
