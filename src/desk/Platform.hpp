@@ -83,6 +83,7 @@ public:
 struct UserFolders {
     std::string settingsFile;
     std::string savedProblems;
+    std::string state = {};  // what the program remembers by itself: recent problems, the frame's place
 };
 
 // A colour for the user to choose; empty when the dialog was cancelled.
@@ -120,6 +121,21 @@ public:
     virtual void setup() = 0;
 };
 
+// The user's browser. False where none could be opened.
+class Browser {
+public:
+    virtual ~Browser() = default;
+    virtual bool open(const std::string& address) = 0;
+};
+
+// What there is to tell of the machine, the desktop and the program, a fact a line; empty where
+// nothing can be told. e.g. "Qt: 6.4.2"
+class SystemReport {
+public:
+    virtual ~SystemReport() = default;
+    [[nodiscard]] virtual std::string text() const = 0;
+};
+
 // The outside that the program is running in. All pointers are set before any routine of the logic
 // runs and stay valid while it does; the platform owns nothing.
 struct Platform {
@@ -130,6 +146,8 @@ struct Platform {
     Printer* printer = nullptr;
     Files* files = nullptr;
     FileDialogs* fileDialogs = nullptr;
+    Browser* browser = nullptr;
+    SystemReport* systemReport = nullptr;
     UserFolders folders;
 };
 

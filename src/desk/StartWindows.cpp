@@ -4,6 +4,7 @@ namespace ordwise {
 
 LogoWindow frmLogo;
 OptionsWindow frmOptions;
+AboutWindow frmAbout;
 
 OptionsWindow::OptionsWindow() {
     Label1.Text = "Choose Assistant Wiz:";
@@ -18,6 +19,12 @@ OptionsWindow::OptionsWindow() {
     Combo1.List = {" 1", " 2", " 3", " 4", " 5"};
     Command1.Text = "OK";
     Command2.Text = "Cancel";
+}
+
+AboutWindow::AboutWindow() {
+    lblTitle.Text = "Ordwise";
+    cmdSysInfo.Text = "System Info...";
+    Command1.Text = "OK";
 }
 
 Control& OptionsWindow::wizard(int number) {

@@ -1,4 +1,4 @@
-// frmLogo, the splash of the start, and frmOptions, the settings, as plain data.
+// frmLogo, the splash of the start, frmOptions, the settings, and frmAbout, as plain data.
 #pragma once
 
 #include "Windows.hpp"
@@ -32,7 +32,21 @@ struct OptionsWindow {
     [[nodiscard]] Control& wizard(int number);
 };
 
+struct AboutWindow {
+    bool Loaded = false;
+    std::string Caption = "About Ordwise";
+    Control lblTitle;    // the program's name
+    Control lblVersion;  // e.g. "Version 0.1.0"
+    Control cmdSysInfo;  // "System Info..."
+    Control Command1;    // "OK"
+    // What the button tells of this machine, a fact a line; empty until it was asked for.
+    std::string SystemInformation;
+
+    AboutWindow();
+};
+
 extern LogoWindow frmLogo;
 extern OptionsWindow frmOptions;
+extern AboutWindow frmAbout;
 
 }  // namespace ordwise

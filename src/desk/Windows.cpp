@@ -57,13 +57,19 @@ MainWindow::MainWindow() {
     mnuShowStep.Text = "&Show Step-By-Step"; mnuHideWiz.Text = "Show &Wiz Assistant";
     mnuShowLight.Text = "Show &Guided Input Light";
     mnuChange.Text = "Se&ttings";
+    mnuHelp.Text = "&Help";                  mnuHelpTopics.Text = "Help Topics";
+    mnuWeb.Text = "Halvern on the &Web";     mnuAlgSol.Text = "&Ordwise";
+    mnuHomePage.Text = "Halvern &Home Page"; mnuOnlineSupport.Text = "Online Support";
+    mnuAbout.Text = "&About Ordwise";
+    mnuHide.Text = "&Hide";                  mnuHideOptions.Text = "&Options...";
+    mnuUsePencil.Text = "Use &Pencil";       mnuHideLight.Text = "&Hide Guided Input Light";
     // clang-format on
     for (Control* menu :
          {&mnuPrint, &mnuPrintSetup, &mnuSave, &mnuSolve, &mnuExample, &mnuErase, &mnuGraph, &mnuExp, &mnuSquareRoot,
           &mnuExponet, &mnuAbsValue, &mnuAddition, &mnuSubtraction, &mnuMultiplication, &mnuDivision}) {
         menu->Enabled = false;
     }
-    for (Control* menu : {&mnuPencil, &mnuShowStep, &mnuHideWiz, &mnuShowLight}) menu->Checked = true;
+    for (Control* menu : {&mnuPencil, &mnuShowStep, &mnuHideWiz, &mnuShowLight, &mnuUsePencil}) menu->Checked = true;
 }
 
 void setSolveEnabled(bool enabled) {
@@ -81,6 +87,7 @@ void ResetWindows() {
     frmLogo = LogoWindow{};
     frmOptions = OptionsWindow{};
     frmPracticeTest = PracticeTestWindow{};
+    frmAbout = AboutWindow{};
 }
 
 }  // namespace ordwise

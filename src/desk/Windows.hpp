@@ -119,6 +119,11 @@ struct MainWindow {
     Control mnuSpecial, mnuSquareRoot, mnuExponet, mnuAbsValue, mnuAddition, mnuSubtraction, mnuMultiplication,
         mnuDivision, mnuConvertDF;
     Control mnuOptions, mnuPencil, mnuShowStep, mnuHideWiz, mnuShowLight, mnuChange;
+    Control mnuHelp, mnuHelpTopics, mnuWeb, mnuAlgSol, mnuHomePage, mnuOnlineSupport, mnuAbout;
+    // The pop-up menus of the desk: of the assistant, of the pencil, of the light.
+    Control mnuHidden, mnuHide, mnuHideOptions;
+    Control mnuHidden2, mnuUsePencil;
+    Control mnuHidden3, mnuHideLight;
 
     // As the program starts: captions, keys, tool tips, and nothing to solve or print yet.
     MainWindow();

@@ -57,7 +57,8 @@ std::optional<std::string> PlainFileDialogs::fileToOpen(const FileQuestion& ques
 }
 
 PlainPlatform::PlainPlatform() : before_(platform) {
-    platform = Platform{&dialogs, &windows, &clock, &colours, &printer, &files, &fileDialogs, {}};
+    platform =
+        Platform{&dialogs, &windows, &clock, &colours, &printer, &files, &fileDialogs, &browser, &systemReport, {}};
 }
 
 PlainPlatform::~PlainPlatform() {

@@ -110,6 +110,25 @@ public:
     std::optional<std::string> fileToOpen(const FileQuestion& question) override;
 };
 
+// Keeps the addresses that were asked for.
+class PlainBrowser : public Browser {
+public:
+    std::vector<std::string> addresses;
+    bool works = true;
+
+    bool open(const std::string& address) override {
+        addresses.push_back(address);
+        return works;
+    }
+};
+
+class PlainSystemReport : public SystemReport {
+public:
+    std::string facts;
+
+    [[nodiscard]] std::string text() const override { return facts; }
+};
+
 // All together; makes itself the platform of the process for as long as it lives.
 class PlainPlatform {
 public:
@@ -125,6 +144,8 @@ public:
     PlainPrinter printer;
     PlainFiles files;
     PlainFileDialogs fileDialogs;
+    PlainBrowser browser;
+    PlainSystemReport systemReport;
 
 private:
     Platform before_;

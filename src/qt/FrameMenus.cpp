@@ -61,10 +61,37 @@ MenuTable optionsMenu() {
              {&frmMain.mnuChange, mnuChange_Click, {}}}};
 }
 
+MenuTable helpMenu() {
+    return {&frmMain.mnuHelp,
+            {{&frmMain.mnuHelpTopics, mnuHelpTopics_Click, QKeySequence::HelpContents},
+             {},
+             {&frmMain.mnuWeb,
+              nullptr,
+              {},
+              false,
+              {{&frmMain.mnuAlgSol, mnuAlgSol_Click, {}}, {&frmMain.mnuHomePage, mnuHomePage_Click, {}}}},
+             {&frmMain.mnuOnlineSupport, mnuOnlineSupport_Click, {}},
+             {},
+             {&frmMain.mnuAbout, mnuAbout_Click, {}}}};
+}
+
 }  // namespace
 
 std::vector<MenuTable> frameMenus() {
-    return {fileMenu(), toolsMenu(), functionsMenu(), optionsMenu()};
+    return {fileMenu(), toolsMenu(), functionsMenu(), optionsMenu(), helpMenu()};
+}
+
+MenuTable assistantPopUp() {
+    return {&frmMain.mnuHidden,
+            {{&frmMain.mnuHide, mnuHide_Click, {}}, {}, {&frmMain.mnuHideOptions, mnuHideOptions_Click, {}}}};
+}
+
+MenuTable pencilPopUp() {
+    return {&frmMain.mnuHidden2, {{&frmMain.mnuUsePencil, mnuUsePencil_Click, {}, true}}};
+}
+
+MenuTable lightPopUp() {
+    return {&frmMain.mnuHidden3, {{&frmMain.mnuHideLight, mnuHideLight_Click, {}}}};
 }
 
 std::vector<ToolRow> toolbarRows() {
@@ -80,7 +107,7 @@ std::vector<ToolRow> toolbarRows() {
             {MainWindow::buttonRoot, insertKey<'~'>},
             {MainWindow::buttonPower, insertKey<'^'>},
             {MainWindow::buttonFracdec, mnuConvertDF_Click},
-            {MainWindow::buttonWeb, nullptr}};
+            {MainWindow::buttonWeb, mnuHomePage_Click}};
 }
 
 }  // namespace ordwise

@@ -12,12 +12,14 @@ namespace ordwise {
 
 using Routine = void (*)();
 
-// A menu entry. Without a control it separates; mnuExit has no routine, the frame closes itself.
+// A menu entry. Without a control it separates, with rows of its own it opens a menu below; mnuExit
+// has no routine, the frame closes itself.
 struct MenuRow {
     const Control* control = nullptr;
     Routine routine = nullptr;
     QKeySequence keys;
     bool checkable = false;
+    std::vector<MenuRow> below = {};
 };
 
 struct MenuTable {
@@ -27,6 +29,11 @@ struct MenuTable {
 
 // In the order of the menu bar.
 [[nodiscard]] std::vector<MenuTable> frameMenus();
+
+// What a right click on the assistant, on the pencil and on the light offers.
+[[nodiscard]] MenuTable assistantPopUp();
+[[nodiscard]] MenuTable pencilPopUp();
+[[nodiscard]] MenuTable lightPopUp();
 
 struct ToolRow {
     int button;  // of MainWindow::Button; a gap in the numbers is a separator

@@ -19,12 +19,14 @@
 #include <QToolBar>
 
 namespace ordwise {
+
 FrameWindow::FrameWindow()
     : before_(platform), desk_(nullptr), scroll_(new QScrollArea(this)), status_(new StatusLine(this)) {
     platform = Platform{};
     platform.dialogs = &dialogs_;
     platform.windows = &windows_;
     platform.clock = &clock_;
+    platform.browser = &browser_;
     platform.files = &files_;
     platform.fileDialogs = &fileDialogs_;
     platform.folders = userFolders(environmentValue);
@@ -62,16 +64,23 @@ FrameWindow::~FrameWindow() {
 
 void FrameWindow::addMenus() {
     for (const MenuTable& table : frameMenus()) {
-        QMenu* menu = menuBar()->addMenu(qstringOf(table.title->Text));
-        menu->setToolTipsVisible(true);
-        for (const MenuRow& row : table.rows) addMenuRow(*menu, row);
+        if (table.title == &frmMain.mnuHelp) addViewMenu();  // Help stands last
+        addMenuRows(*menuBar()->addMenu(qstringOf(table.title->Text)), table.rows);
     }
-    addViewMenu();
+}
+
+void FrameWindow::addMenuRows(QMenu& menu, const std::vector<MenuRow>& rows) {
+    menu.setToolTipsVisible(true);
+    for (const MenuRow& row : rows) addMenuRow(menu, row);
 }
 
 void FrameWindow::addMenuRow(QMenu& menu, const MenuRow& row) {
     if (row.control == nullptr) {
         menu.addSeparator();
+        return;
+    }
+    if (!row.below.empty()) {
+        addMenuRows(*menu.addMenu(qstringOf(row.control->Text)), row.below);
         return;
     }
     QAction* action = menu.addAction(qstringOf(row.control->Text));
@@ -119,8 +128,7 @@ void FrameWindow::addToolbar() {
         QAction* action = toolbar_->addAction(artIcon(button.Image), qstringOf(button.ToolTip));
         action->setObjectName(qstringOf(button.Key));
         action->setProperty("image", qstringOf(button.Image));
-        if (const Routine routine = row.routine)
-            connect(action, &QAction::triggered, this, [this, routine] { stage_.perform(routine); });
+        connect(action, &QAction::triggered, this, [this, row] { stage_.perform(row.routine); });
         toolActions_.emplace_back(row.button, action);
     }
 }
@@ -150,7 +158,7 @@ void FrameWindow::showChanges() {
     }
     for (const auto& [index, action] : toolActions_) {
         const ToolbarButton& button = frmMain.Toolbar1[index];
-        action->setEnabled(button.Enabled && button.Key != "web");
+        action->setEnabled(button.Enabled);
         action->setToolTip(qstringOf(button.ToolTip));
         if (action->property("image").toString() == qstringOf(button.Image)) continue;
         action->setProperty("image", qstringOf(button.Image));

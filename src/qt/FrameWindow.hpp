@@ -45,6 +45,7 @@ protected:
 
 private:
     void addMenus();
+    void addMenuRows(QMenu& menu, const std::vector<MenuRow>& rows);
     void addMenuRow(QMenu& menu, const MenuRow& row);
     void addViewMenu();
     void addToolbar();
@@ -54,6 +55,7 @@ private:
     Stage stage_;
     QtDialogs dialogs_;
     QtClock clock_;
+    QtBrowser browser_;
     QtFileDialogs fileDialogs_;
     DiskFiles files_;
     DeskWindows windows_{*this, stage_};

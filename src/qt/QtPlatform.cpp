@@ -3,11 +3,13 @@
 #include "Art.hpp"
 
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLocale>
 #include <QMessageBox>
+#include <QUrl>
 
 namespace ordwise {
 namespace {
@@ -56,6 +58,10 @@ MessageAnswer QtDialogs::messageBox(std::string_view text, std::string_view capt
 std::string QtDialogs::inputBox(std::string_view prompt, std::string_view caption) {
     if (beforeDialog) beforeDialog();
     return QInputDialog::getText(parent, qstringOf(caption), qstringOf(prompt)).toStdString();
+}
+
+bool QtBrowser::open(const std::string& address) {
+    return QDesktopServices::openUrl(QUrl(qstringOf(address)));
 }
 
 int QtClock::minuteAndSecond() const {

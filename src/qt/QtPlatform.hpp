@@ -26,6 +26,12 @@ public:
     std::optional<std::string> fileToOpen(const FileQuestion& question) override;
 };
 
+// The browser that the desktop has chosen for web pages.
+class QtBrowser : public Browser {
+public:
+    bool open(const std::string& address) override;
+};
+
 class QtClock : public Clock {
 public:
     [[nodiscard]] int minuteAndSecond() const override;

@@ -130,8 +130,9 @@ UserFolders userFolders(const Environment& environment) {
     };
     const std::string config = base("XDG_CONFIG_HOME", "/.config");
     const std::string data = base("XDG_DATA_HOME", "/.local/share");
+    const std::string state = base("XDG_STATE_HOME", "/.local/state");
     return {config.empty() ? "" : config + "/ordwise/settings.ini",
-            data.empty() ? "" : data + "/ordwise/Saved Problems"};
+            data.empty() ? "" : data + "/ordwise/Saved Problems", state.empty() ? "" : state + "/ordwise"};
 }
 
 }  // namespace ordwise

@@ -24,8 +24,9 @@ using Environment = std::function<std::string(const char* name)>;
 [[nodiscard]] std::string environmentValue(const char* name);
 
 // The user's folders after the XDG base directory convention: settings below XDG_CONFIG_HOME, saved
-// problems below XDG_DATA_HOME, in the home directory's .config and .local/share where these are not
-// set. Without any home there is no place for either.
+// problems below XDG_DATA_HOME, what the program remembers by itself below XDG_STATE_HOME, in the home
+// directory's .config, .local/share and .local/state where these are not set. Without any home there
+// is no place for them.
 // e.g. HOME=/home/ann -> /home/ann/.config/ordwise/settings.ini
 [[nodiscard]] UserFolders userFolders(const Environment& environment);
 

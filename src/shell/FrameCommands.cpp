@@ -4,6 +4,7 @@
 #include "GuidedInput.hpp"
 #include "Platform.hpp"
 #include "SolveDriver.hpp"
+#include "WebPages.hpp"
 #include "Windows.hpp"
 #include "WorksheetErase.hpp"
 #include "Workspace.hpp"
@@ -74,6 +75,7 @@ void mnuConvertDF_Click() {
 
 void mnuPencil_Click() {
     toggle(frmMain.mnuPencil);
+    frmMain.mnuUsePencil.Checked = frmMain.mnuPencil.Checked;
 }
 
 void mnuShowStep_Click() {
@@ -96,6 +98,42 @@ void mnuHideWiz_Click() {
 void mnuShowLight_Click() {
     toggle(frmMain.mnuShowLight);
     frmPaper.Light.Visible = frmMain.mnuShowLight.Checked;
+}
+
+void mnuHelpTopics_Click() {
+    platform.windows->show("frmHelp");
+}
+
+void mnuAlgSol_Click() {
+    openWebPage(WebPage::Ordwise);
+}
+
+void mnuHomePage_Click() {
+    openWebPage(WebPage::Home);
+}
+
+void mnuOnlineSupport_Click() {
+    openWebPage(WebPage::Support);
+}
+
+void mnuAbout_Click() {
+    platform.windows->show("frmAbout");
+}
+
+void mnuHide_Click() {
+    if (frmMain.mnuHideWiz.Checked) mnuHideWiz_Click();
+}
+
+void mnuHideOptions_Click() {
+    mnuChange_Click();
+}
+
+void mnuUsePencil_Click() {
+    mnuPencil_Click();
+}
+
+void mnuHideLight_Click() {
+    if (frmMain.mnuShowLight.Checked) mnuShowLight_Click();
 }
 
 }  // namespace ordwise

@@ -33,4 +33,17 @@ void mnuShowStep_Click();   // one step at a time, or the whole solution
 void mnuHideWiz_Click();    // the assistant on the desk or away
 void mnuShowLight_Click();  // the light of the guided input on the desk or away
 
+// Help Topics opens the guide, the next three a page of the maker in the browser.
+void mnuHelpTopics_Click();
+void mnuAlgSol_Click();
+void mnuHomePage_Click();
+void mnuOnlineSupport_Click();
+void mnuAbout_Click();
+
+// The pop-up menus of the desk. Hiding what is away already changes nothing.
+void mnuHide_Click();         // the assistant goes
+void mnuHideOptions_Click();  // the settings, where another figure can be chosen
+void mnuUsePencil_Click();
+void mnuHideLight_Click();
+
 }  // namespace ordwise

@@ -36,6 +36,7 @@ void startUp(std::string_view commandLine) {
 void Logo_Load() {
     ws.StepCount = 1;
     readSettings();
+    frmMain.mnuUsePencil.Checked = frmMain.mnuPencil.Checked;
     BuildTopicTree(true);
     frmLogo.logotime.Enabled = true;
     frmLogo.Loaded = true;
