@@ -20,7 +20,6 @@ namespace ordwise::test {
 namespace {
 
 constexpr int plain = 0;
-constexpr int examplesEach = 200;
 
 class Examples : public testing::Test {
 protected:
@@ -46,36 +45,6 @@ protected:
         return examples;
     }
 };
-
-std::string boxesShown() {
-    std::string shown;
-    for (int number = 1; number <= 6; ++number) shown += frmPaper.box(number).Text + "|";
-    return shown;
-}
-
-std::string boxesWanted(const Example& example) {
-    std::string wanted;
-    for (const std::string& box : example.boxes) wanted += box + "|";
-    return wanted;
-}
-
-TEST_F(Examples, OfEveryTopicAreTypedAndSolvedWithoutAMessageBox) {
-    for (const TopicRow& row : topicTable()) {
-        for (const int level : {plain, complexLevel}) {
-            ws.TopicName.clear();
-            for (int i = 0; i < examplesEach; ++i) {
-                const Example example = exampleOf(row.name, level);
-                SCOPED_TRACE(std::string(row.name) + ": " + example.line);
-                ASSERT_EQ(typedText(), example.keys);
-                ASSERT_EQ(boxesShown(), boxesWanted(example));
-                ASSERT_FALSE(ws.InputOpen) << "Solve was not run";
-                ASSERT_TRUE(outside.dialogs.messages.empty()) << outside.dialogs.messages.back().text;
-                ASSERT_FALSE(solveEnabled());
-                ASSERT_TRUE(ws.StepCount > 1 || ws.GraphKind != 0);
-            }
-        }
-    }
-}
 
 // A topic of one box has nine plain problems, each other topic more than fifty.
 TEST_F(Examples, DifferFromOneToTheNext) {
