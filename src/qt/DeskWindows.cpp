@@ -2,6 +2,7 @@
 
 #include "ChooserDialog.hpp"
 #include "FrameWindow.hpp"
+#include "OptionsDialog.hpp"
 #include "Stage.hpp"
 #include "WindowRoutines.hpp"
 
@@ -20,6 +21,7 @@ struct DeskWindows::Row {
 
 const DeskWindows::Row DeskWindows::rows[] = {
     {"frmSelect", true, [](QWidget* frame, Stage&) -> QWidget* { return new ChooserDialog(frame); }},
+    {"frmOptions", true, [](QWidget* frame, Stage& stage) -> QWidget* { return new OptionsDialog(frame, stage); }},
 };
 
 void DeskWindows::show(std::string_view name) {
