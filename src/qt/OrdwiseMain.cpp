@@ -1,14 +1,18 @@
 // ordwise, the desktop program.
+#include "EndingSignals.hpp"
 #include "ExportCommand.hpp"
 #include "FrameWindow.hpp"
 #include "FreshProgram.hpp"
+#include "SettingsFile.hpp"
 #include "StartStop.hpp"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QSessionManager>
 #include <QTextStream>
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <string_view>
 
@@ -77,6 +81,32 @@ int exportFromCommandLine(const QCommandLineParser& parser) {
     return 1;
 }
 
+// Ends the program when its session ends, as closing the frame does. A routine that waits for an
+// answer would go on to the next question without one, so then nothing is gone back to.
+void endSession(QWidget& frame) {
+    const bool inDialog = QApplication::activeModalWidget() != nullptr;
+    frame.close();
+    ordwise::shutDown();
+    if (inDialog) std::_Exit(EXIT_SUCCESS);
+    QApplication::exit();
+}
+
+int runDesk(const QStringList& arguments) {
+    ordwise::startFreshProgram();
+    ordwise::FrameWindow frame;
+    ordwise::EndingSignals signals;
+    signals.whenAsked = [&frame] { endSession(frame); };
+    // A session that ends may yet be kept open, so only the settings are made safe.
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, &frame,
+                     [](QSessionManager&) { ordwise::writeSettings(); });
+    ordwise::startUp(arguments.isEmpty() ? std::string() : arguments.constFirst().toStdString());
+    frame.showChanges();
+    frame.show();
+    const int status = signals.asked() ? EXIT_SUCCESS : QApplication::exec();
+    ordwise::shutDown();
+    return status;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -104,13 +134,5 @@ int main(int argc, char** argv) {
     parser.process(application);
     if (parser.isSet(QStringLiteral("export"))) return exportFromCommandLine(parser);
 
-    ordwise::startFreshProgram();
-    ordwise::FrameWindow frame;
-    const QStringList arguments = parser.positionalArguments();
-    ordwise::startUp(arguments.isEmpty() ? std::string() : arguments.constFirst().toStdString());
-    frame.showChanges();
-    frame.show();
-    const int status = QApplication::exec();
-    ordwise::shutDown();
-    return status;
+    return runDesk(parser.positionalArguments());
 }
