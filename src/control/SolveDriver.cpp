@@ -32,6 +32,7 @@ void beginRun() {
     frmPaper.Pencil.Image = "pencil1";
     platform.windows->unload("frmGraph");
     ws.StepCount = 1;
+    ws.CurrentNote.clear();  // the last rule's of the problem before would stand at the first line
     for (std::string& line : ws.StepLines) line.clear();
     ws.ShownStep = frmMain.mnuShowStep.Checked ? 2 : 0;
     ws.GraphKind = 0;
