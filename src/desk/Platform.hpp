@@ -98,6 +98,7 @@ struct PaperSize {
     double width = 816;  // Letter
     double height = 1056;
     double margin = 48;
+    bool operator==(const PaperSize&) const = default;
 };
 
 // What is sent to the printer in one piece. A page is drawn with its origin at the corner of the

@@ -1,6 +1,7 @@
 // frmPrintSetup and frmPrintPreview as plain data.
 #pragma once
 
+#include "Platform.hpp"
 #include "Windows.hpp"
 
 #include <array>
@@ -42,6 +43,7 @@ struct PrintPreviewWindow {
     bool Loaded = false;
     std::vector<TestSheet> Sheets;  // what is shown and printed; whoever opens the window sets it
     BoundedArray<Page, lastPage> Picture1;
+    PaperSize Paper;             // what the pages are laid out for
     int FrontPage = 0;           // the page that lies in front
     Control Label1;              // the printer's name
     Control Label3, Label4;      // the number of pages and of the page in view

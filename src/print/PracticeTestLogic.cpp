@@ -11,11 +11,23 @@
 namespace ordwise {
 namespace {
 
-constexpr int hourglass = 11;
 constexpr int usualCount = 2;  // the entry "3" of the numbers
 constexpr int largestSeed = 999999;
 
 enum KeyCode { keyEnter = 13, keyUp = 38, keyRight = 39, keyDown = 40 };
+
+// The hourglass, until the test is made or a fault has ended it.
+class BusyPointer {
+public:
+    BusyPointer() {
+        constexpr int hourglass = 11;
+        frmMain.MousePointer = hourglass;
+        platform.windows->redraw("frmPracticeTest");
+    }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+    ~BusyPointer() { frmMain.MousePointer = ws.NormalPointer; }
+};
 
 // The slot that holds a topic, or with "" the first free one; -1 if there is none.
 int slotOf(std::string_view topic) {
@@ -85,6 +97,10 @@ void PracticeTree_KeyDown(int keyCode, std::string_view current) {
     if (keyCode == keyEnter) PracticeTree_NodeClick(current);
 }
 
+void PracticeTree_MouseDown() {
+    frmPracticeTest.ArrowKeyNavigation = false;
+}
+
 void PracticeCommand4_Click(int section) {
     frmPracticeTest.Text4[section].Text.clear();
     showChecks();
@@ -105,10 +121,11 @@ TestPlan planOfWindow() {
 }
 
 void PracticeCommand2_Click() {
-    frmMain.MousePointer = hourglass;
-    const TestPlan plan = planOfWindow();
-    frmPrintPreview.Sheets = sheetsOf(plan, makeTests(plan));
-    frmMain.MousePointer = ws.NormalPointer;
+    {
+        const BusyPointer busy;
+        const TestPlan plan = planOfWindow();
+        frmPrintPreview.Sheets = sheetsOf(plan, makeTests(plan));
+    }
     platform.windows->show("frmPrintPreview");
 }
 

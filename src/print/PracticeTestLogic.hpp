@@ -20,6 +20,9 @@ void PracticeTree_NodeClick(std::string_view text);
 // A key in the tree by its code: the arrows (38 to 40) walk, Enter (13) takes the node in view.
 void PracticeTree_KeyDown(int keyCode, std::string_view current);
 
+// The mouse takes over from the arrow keys: the next click on a node counts.
+void PracticeTree_MouseDown();
+
 void PracticeCommand4_Click(int section);  // "Clear"
 void PracticeCommand2_Click();             // "Create Practice Test": opens the preview
 void PracticeCommand1_Click();             // "Cancel"

@@ -22,16 +22,27 @@ void turnTo(int page) {
 // Pages beyond the last surface of the window cannot be shown.
 void showPages(const std::vector<DisplayList>& pages) {
     constexpr int room = PrintPreviewWindow::lastPage + 1;
-    const int count = std::min(static_cast<int>(pages.size()), room);
-    for (int i = 0; i < count; ++i) {
+    const int all = static_cast<int>(pages.size());
+    const int count = std::min(all, room);
+    for (int i = 0; i < room; ++i) {
         PrintPreviewWindow::Page& page = frmPrintPreview.Picture1[i];
+        page = PrintPreviewWindow::Page{};
+        if (i >= count) continue;
         page.Picture.place(pages[static_cast<std::size_t>(i)], 0, 0);
         page.Visible = true;
     }
     ws.PreviewPageCount = count - 1;
-    if (static_cast<int>(pages.size()) > room) {
-        platform.dialogs->messageBox("An error occurred while displaying information.", "Ordwise", MessageButtons::Ok);
-    }
+    if (all <= room) return;
+    platform.dialogs->messageBox("An error occurred while displaying information.", "Ordwise", MessageButtons::Ok);
+    frmMain.StatusText =
+        "The preview has room for " + textOf(room) + " of the " + textOf(all) + " pages.  All of them are printed.";
+}
+
+void layOutPreview() {
+    frmPrintPreview.Paper = platform.printer->paper();
+    PageSurface surface(frmPrintPreview.Paper);
+    layOutSheets(surface, frmPrintPreview.Sheets);
+    showPages(surface.finished());
 }
 
 }  // namespace
@@ -58,10 +69,8 @@ void frmPrintPreview_Load() {
     frmPrintPreview = PrintPreviewWindow{};
     frmPrintPreview.Sheets = std::move(sheets);
     frmPrintPreview.Loaded = true;
-    ws.PreviewPageCount = 0;
-    PageSurface surface(platform.printer->paper());
-    layOutSheets(surface, frmPrintPreview.Sheets);
-    showPages(surface.finished());
+    frmMain.StatusText.clear();
+    layOutPreview();
     turnTo(0);
 }
 
@@ -87,15 +96,21 @@ void frmPrintPreview_Command2_Click() {
 
 void frmPrintPreview_Command3_Click() {
     platform.printer->setup();
+    if (platform.printer->paper() != frmPrintPreview.Paper) layOutPreview();
+    showPreviewPage(ws.PreviewPage);
     frmPrintPreview_Paint();
 }
 
 void frmPrintPreview_Command4_Click() {
-    if (ws.PreviewPage > 0) turnTo(ws.PreviewPage - 1);
+    showPreviewPage(ws.PreviewPage - 1);
 }
 
 void frmPrintPreview_Command5_Click() {
-    if (ws.PreviewPage < ws.PreviewPageCount) turnTo(ws.PreviewPage + 1);
+    showPreviewPage(ws.PreviewPage + 1);
+}
+
+void showPreviewPage(int page) {
+    turnTo(std::clamp<int>(page, 0, ws.PreviewPageCount));
 }
 
 }  // namespace ordwise

@@ -21,8 +21,11 @@ void frmPrintPreview_Unload();
 void frmPrintPreview_Paint();           // the printer's name and the page numbers
 void frmPrintPreview_Command1_Click();  // Print
 void frmPrintPreview_Command2_Click();  // Exit
-void frmPrintPreview_Command3_Click();  // Print Setup...
+void frmPrintPreview_Command3_Click();  // Print Setup...: another paper has other pages
 void frmPrintPreview_Command4_Click();  // page back
 void frmPrintPreview_Command5_Click();  // page forward
+
+// Brings a page to the front, counted from 0; the first or the last for one that is not there.
+void showPreviewPage(int page);
 
 }  // namespace ordwise

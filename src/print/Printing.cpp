@@ -172,7 +172,7 @@ bool printSolution(bool withExplanations) {
 
 bool PrintTheGraph() {
     if (!frmGraph.Loaded) return false;
-    return printPages(heading()[1], [](PageSurface& page) { layOutGraph(page, platform.printer->paper()); });
+    return printPages(heading()[1] + " Graph", [](PageSurface& page) { layOutGraph(page, platform.printer->paper()); });
 }
 
 }  // namespace ordwise

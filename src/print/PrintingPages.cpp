@@ -61,6 +61,7 @@ void PrintLine(std::string_view line, DrawingSurface& surface, bool inBlue) {
 }
 
 bool printPages(const std::string& title, const std::function<void(PageSurface&)>& layOut) {
+    frmMain.StatusText.clear();
     try {
         PrintJob job{title, platform.printer->paper(), {}};
         PageSurface surface(job.paper);

@@ -3,15 +3,29 @@
 #include "ChooserDialog.hpp"
 #include "FrameWindow.hpp"
 #include "OptionsDialog.hpp"
+#include "PracticeTestDialog.hpp"
+#include "PrintPreviewDialog.hpp"
+#include "PrintSetupDialog.hpp"
 #include "Stage.hpp"
 #include "WindowRoutines.hpp"
 
+#include <QApplication>
 #include <QDialog>
 
 #include <algorithm>
 #include <iterator>
 
 namespace ordwise {
+namespace {
+
+// A dialog may be opened from another one, which then stands behind it.
+template <class Dialog>
+QWidget* makeDialog(QWidget* frame, Stage& stage) {
+    QWidget* const inFront = QApplication::activeModalWidget();
+    return new Dialog(inFront == nullptr ? frame : inFront, stage);
+}
+
+}  // namespace
 
 struct DeskWindows::Row {
     std::string_view name;
@@ -21,7 +35,10 @@ struct DeskWindows::Row {
 
 const DeskWindows::Row DeskWindows::rows[] = {
     {"frmSelect", true, [](QWidget* frame, Stage&) -> QWidget* { return new ChooserDialog(frame); }},
-    {"frmOptions", true, [](QWidget* frame, Stage& stage) -> QWidget* { return new OptionsDialog(frame, stage); }},
+    {"frmOptions", true, makeDialog<OptionsDialog>},
+    {"frmPrintSetup", true, makeDialog<PrintSetupDialog>},
+    {"frmPrintPreview", true, makeDialog<PrintPreviewDialog>},
+    {"frmPracticeTest", true, makeDialog<PracticeTestDialog>},
 };
 
 void DeskWindows::show(std::string_view name) {

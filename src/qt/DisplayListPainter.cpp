@@ -33,11 +33,7 @@ const QRawFont& rawFont(Face face, double em) {
     static std::map<std::pair<Face, double>, QRawFont> fonts;
     const auto known = fonts.find({face, em});
     if (known != fonts.end()) return known->second;
-    QFont font(familyOf(face));
-    font.setStyleHint(face == Face::Sans ? QFont::SansSerif : face == Face::Courier ? QFont::Monospace : QFont::Serif);
-    font.setBold(face == Face::Explanation || face == Face::Courier);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    QRawFont raw = QRawFont::fromFont(font);
+    QRawFont raw = QRawFont::fromFont(fontOf(face));
     raw.setPixelSize(em);
     return fonts.emplace(std::pair(face, em), std::move(raw)).first->second;
 }
@@ -140,6 +136,14 @@ struct Extent {
 };
 
 }  // namespace
+
+QFont fontOf(Face face) {
+    QFont font(familyOf(face));
+    font.setStyleHint(face == Face::Sans ? QFont::SansSerif : face == Face::Courier ? QFont::Monospace : QFont::Serif);
+    font.setBold(face == Face::Explanation || face == Face::Courier);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
 
 QRectF extentOf(const DrawOperation& operation) {
     return std::visit(Extent{}, operation);

@@ -3,11 +3,15 @@
 
 #include "DisplayList.hpp"
 
+#include <QFont>
 #include <QRectF>
 
 class QPainter;
 
 namespace ordwise {
+
+// The font of a face, in the size that the application uses.
+[[nodiscard]] QFont fontOf(Face face);
 
 // Draws the list with its origin at the painter's; one unit of the surface is one of the painter.
 void replay(const DisplayList& list, QPainter& painter);

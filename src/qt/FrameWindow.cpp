@@ -28,10 +28,12 @@ FrameWindow::FrameWindow()
     platform.clock = &clock_;
     platform.browser = &browser_;
     platform.files = &files_;
+    platform.printer = &printer_;
     platform.fileDialogs = &fileDialogs_;
     platform.folders = userFolders(environmentValue);
     dialogs_.parent = this;
     fileDialogs_.parent = this;
+    printer_.parent = this;
     dialogs_.beforeDialog = [this] { stage_.show(); };
     stage_.showChanges = [this] {
         showChanges();

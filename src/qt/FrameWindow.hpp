@@ -4,6 +4,7 @@
 #include "DeskWindows.hpp"
 #include "DiskFiles.hpp"
 #include "QtPlatform.hpp"
+#include "QtPrinter.hpp"
 #include "Stage.hpp"
 #include "Windows.hpp"
 
@@ -58,6 +59,7 @@ private:
     QtBrowser browser_;
     QtFileDialogs fileDialogs_;
     DiskFiles files_;
+    QtPrinter printer_;
     DeskWindows windows_{*this, stage_};
     Platform before_;
     DeskView* desk_;

@@ -25,11 +25,15 @@ DeskTest::~DeskTest() {
 }
 
 void DeskTest::atNextDialog(const std::function<void(QWidget& dialog)>& act) {
+    atDialog(QString(), act);
+}
+
+void DeskTest::atDialog(const QString& name, const std::function<void(QWidget& dialog)>& act) {
     ++dialogsAwaited_;
     auto* watch = new QTimer(frame.get());
-    QObject::connect(watch, &QTimer::timeout, frame.get(), [this, watch, act] {
+    QObject::connect(watch, &QTimer::timeout, frame.get(), [this, watch, name, act] {
         QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) return;
+        if (dialog == nullptr || (!name.isEmpty() && dialog->objectName() != name)) return;
         watch->stop();
         watch->deleteLater();
         --dialogsAwaited_;

@@ -23,6 +23,8 @@ protected:
     void choose(const QString& typed);
     // What a person does with the next dialog; the test fails if none opens.
     void atNextDialog(const std::function<void(QWidget& dialog)>& act);
+    // The same for a dialog of that name, which may be opened from another one.
+    void atDialog(const QString& name, const std::function<void(QWidget& dialog)>& act);
 
     // Keys go to whatever has the keyboard, as they do on a real desk.
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

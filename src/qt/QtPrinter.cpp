@@ -1,0 +1,113 @@
+#include "QtPrinter.hpp"
+
+#include "Art.hpp"
+#include "PagePainter.hpp"
+#include "TextTools.hpp"
+#include "Windows.hpp"
+
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QStandardPaths>
+
+#include <utility>
+
+namespace ordwise {
+namespace {
+
+constexpr double unitsOfInch = 96;
+
+// e.g. "Area of a Square/Rectangle" -> "Area of a Square-Rectangle.pdf"
+std::string fileNameOf(const std::string& title) {
+    return replaced(replaced(title, "/", "-"), "*", "x") + ".pdf";
+}
+
+bool paintJob(QPrinter& device, const PrintJob& job) {
+    QPainter painter;
+    if (!painter.begin(&device)) return false;
+    const double scale = device.resolution() / unitsOfInch;
+    painter.scale(scale, scale);
+    for (const DisplayList& page : job.pages) {
+        if (&page != &job.pages.front() && !device.newPage()) {
+            device.abort();
+            return false;
+        }
+        paintPage(painter, job.paper, page);
+    }
+    return painter.end() && device.printerState() != QPrinter::Error;
+}
+
+}  // namespace
+
+QtPrinter::QtPrinter(Devices devices) : devices_(devices) {}
+QtPrinter::~QtPrinter() = default;
+
+QPrinter& QtPrinter::device() const {
+    if (device_ == nullptr) {
+        device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        if (devices_ == Devices::None) device_->setOutputFormat(QPrinter::PdfFormat);
+        device_->setFullPage(true);
+        device_->setPageLayout(localPaper());
+    }
+    return *device_;
+}
+
+bool QtPrinter::printsToFile() const {
+    return device().outputFormat() == QPrinter::PdfFormat || device().printerName().isEmpty();
+}
+
+std::string QtPrinter::DeviceName() const {
+    return printsToFile() ? "PDF file" : device().printerName().toStdString();
+}
+
+PaperSize QtPrinter::paper() const {
+    return paperOf(device().pageLayout());
+}
+
+std::string QtPrinter::print(const PrintJob& job) {
+    return printsToFile() ? printToFile(job) : printToDevice(job);
+}
+
+std::string QtPrinter::printToFile(const PrintJob& job) {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    std::optional<std::string> path;
+    if (chosenFile_.isEmpty()) {
+        path = platform.fileDialogs->fileToSave(
+            {"Print to PDF", "PDF files (.pdf)|*.pdf", "pdf", documents.toStdString(), fileNameOf(job.title)});
+    } else {
+        path = QFile::encodeName(std::exchange(chosenFile_, QString())).toStdString();
+    }
+    if (!path) return "Nothing was printed.";
+    const QByteArray bytes = pagesAsPdf({job});
+    std::string trouble = platform.files->write(*path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    if (trouble.empty()) frmMain.StatusText = "Printed to \"" + *path + "\".";
+    return trouble;
+}
+
+std::string QtPrinter::printToDevice(const PrintJob& job) {
+    device().setDocName(qstringOf(job.title));
+    if (!paintJob(device(), job)) return "The printer \"" + DeviceName() + "\" did not take the pages.";
+    frmMain.StatusText = "Printed on \"" + DeviceName() + "\".";
+    return "";
+}
+
+void QtPrinter::setup() {
+    QPrintDialog dialog(&device(), parent);
+    dialog.setWindowTitle(QStringLiteral("Print Setup"));
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    // What is chosen here holds for the next job; nothing is printed yet.
+    if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+        if (QPushButton* accept = buttons->button(QDialogButtonBox::Ok)) accept->setText(QStringLiteral("&OK"));
+    }
+    if (dialog.exec() != QDialog::Accepted) return;
+    device().setFullPage(true);
+    const bool named = device().outputFormat() == QPrinter::PdfFormat;
+    chosenFile_ = named ? device().outputFileName() : QString();
+}
+
+}  // namespace ordwise
