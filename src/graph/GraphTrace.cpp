@@ -51,9 +51,10 @@ public:
         for (const double x : places_) {
             const TracedPoint point = pointAt(equation_, x, lower);
             if (point.y && isWhole(x)) trace.list.push_back(coordinateLine(x, *point.y));
-            if (last) join(*last, point);
+            if (last && !straight_) join(*last, point);
             last = point;
         }
+        if (straight_) joinEnds(lower);
     }
 
     Trace trace;
@@ -61,13 +62,15 @@ public:
 private:
     void join(const TracedPoint& from, const TracedPoint& to) {
         if (!from.y || !to.y || (broken_ && from.x < 0 && to.x > 0)) return;
-        const Segment segment{from.x, *from.y, to.x, *to.y};
-        if (isSeen(from) && isSeen(to)) {
-            trace.segments.push_back(segment);
-        } else if (straight_) {
-            // A steep line may have both its points outside and still cross the window.
-            if (const std::optional<Segment> part = seenPart(segment, window_)) trace.segments.push_back(*part);
-        }
+        if (isSeen(from) && isSeen(to)) trace.segments.push_back({from.x, *from.y, to.x, *to.y});
+    }
+
+    // A straight line is one segment from border to border; none of its points need be seen for that.
+    void joinEnds(bool lower) {
+        const TracedPoint from = pointAt(equation_, places_.front(), lower);
+        const TracedPoint to = pointAt(equation_, places_.back(), lower);
+        if (!from.y || !to.y) return;
+        if (const auto part = seenPart({from.x, *from.y, to.x, *to.y}, window_)) trace.segments.push_back(*part);
     }
 
     bool isSeen(const TracedPoint& point) const { return *point.y >= window_.yMin && *point.y <= window_.yMax; }
@@ -84,12 +87,10 @@ Trace traceVertical(const GraphEquation& equation, const GraphWindow& window) {
     const TracedPoint place{0, pointAt(equation, 0, false).y};
     if (!place.y) return trace;
     const double x = *place.y;
-    std::optional<double> last;
     for (const double y : places(window.yMin, window.yMax, window.plotStep)) {
         if (isWhole(y)) trace.list.push_back(coordinateLine(x, y));
-        if (last && x >= window.xMin && x <= window.xMax) trace.segments.push_back({x, *last, x, y});
-        last = y;
     }
+    if (x >= window.xMin && x <= window.xMax) trace.segments.push_back({x, window.yMin, x, window.yMax});
     return trace;
 }
 

@@ -30,8 +30,8 @@ struct Trace {
 [[nodiscard]] std::string coordinateLine(double x, double y);
 
 // The equation of the window, followed from xMin to xMax by plotStep. A point that has no value or
-// lies outside is not joined to its neighbours, but a straight line runs on to the border. Whole x
-// come into the list. A vertical line is followed from yMin to yMax.
+// lies outside is not joined to its neighbours, but a straight line runs from border to border. Whole
+// x come into the list. A vertical line is followed from yMin to yMax.
 [[nodiscard]] Trace traceEquation(const GraphWindow& window);
 
 }  // namespace ordwise

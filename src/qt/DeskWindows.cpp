@@ -2,6 +2,7 @@
 
 #include "ChooserDialog.hpp"
 #include "FrameWindow.hpp"
+#include "GraphView.hpp"
 #include "OptionsDialog.hpp"
 #include "PracticeTestDialog.hpp"
 #include "PrintPreviewDialog.hpp"
@@ -39,6 +40,8 @@ const DeskWindows::Row DeskWindows::rows[] = {
     {"frmPrintSetup", true, makeDialog<PrintSetupDialog>},
     {"frmPrintPreview", true, makeDialog<PrintPreviewDialog>},
     {"frmPracticeTest", true, makeDialog<PracticeTestDialog>},
+    {"frmOptions", true, [](QWidget* frame, Stage& stage) -> QWidget* { return new OptionsDialog(frame, stage); }},
+    {"frmGraph", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new GraphView(frame, stage); }},
 };
 
 void DeskWindows::show(std::string_view name) {

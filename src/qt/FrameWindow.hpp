@@ -57,6 +57,7 @@ private:
     QtDialogs dialogs_;
     QtClock clock_;
     QtBrowser browser_;
+    QtColours colours_;
     QtFileDialogs fileDialogs_;
     DiskFiles files_;
     QtPrinter printer_;

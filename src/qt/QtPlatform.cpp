@@ -2,6 +2,8 @@
 
 #include "Art.hpp"
 
+#include <QApplication>
+#include <QColorDialog>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -21,6 +23,12 @@ QString nameFilter(const std::string& filter) {
     return description + QStringLiteral(" (") + text.section(QLatin1Char('|'), 1, 1) + QLatin1Char(')');
 }
 
+// A dialog belongs to the window from which it was asked for, which need not be the frame.
+QWidget* windowInUse(QWidget* frame) {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr ? active : frame;
+}
+
 std::optional<std::string> chosen(QFileDialog& dialog, const FileQuestion& question) {
     dialog.setWindowTitle(qstringOf(question.title));
     dialog.setNameFilter(nameFilter(question.filter));
@@ -34,14 +42,14 @@ std::optional<std::string> chosen(QFileDialog& dialog, const FileQuestion& quest
 }  // namespace
 
 std::optional<std::string> QtFileDialogs::fileToSave(const FileQuestion& question) {
-    QFileDialog dialog(parent);
+    QFileDialog dialog(windowInUse(parent));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     return chosen(dialog, question);
 }
 
 std::optional<std::string> QtFileDialogs::fileToOpen(const FileQuestion& question) {
-    QFileDialog dialog(parent);
+    QFileDialog dialog(windowInUse(parent));
     dialog.setFileMode(QFileDialog::ExistingFile);
     return chosen(dialog, question);
 }
@@ -50,14 +58,22 @@ MessageAnswer QtDialogs::messageBox(std::string_view text, std::string_view capt
     if (beforeDialog) beforeDialog();
     const bool asks = buttons == MessageButtons::OkCancel;
     QMessageBox box(asks ? QMessageBox::Question : QMessageBox::Information, qstringOf(caption), qstringOf(text),
-                    asks ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok, parent);
+                    asks ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok, windowInUse(parent));
     box.setTextFormat(Qt::PlainText);
     return box.exec() == QMessageBox::Ok ? MessageAnswer::Ok : MessageAnswer::Cancel;
 }
 
 std::string QtDialogs::inputBox(std::string_view prompt, std::string_view caption) {
     if (beforeDialog) beforeDialog();
-    return QInputDialog::getText(parent, qstringOf(caption), qstringOf(prompt)).toStdString();
+    return QInputDialog::getText(windowInUse(parent), qstringOf(caption), qstringOf(prompt)).toStdString();
+}
+
+std::optional<Colour> QtColours::chooseColour(Colour current) {
+    const QColor chosen =
+        QColorDialog::getColor(QColor(current.red, current.green, current.blue), QApplication::activeWindow());
+    if (!chosen.isValid()) return std::nullopt;
+    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+    return Colour{part(chosen.red()), part(chosen.green()), part(chosen.blue())};
 }
 
 bool QtBrowser::open(const std::string& address) {

@@ -32,6 +32,11 @@ public:
     bool open(const std::string& address) override;
 };
 
+class QtColours : public ColourDialog {
+public:
+    std::optional<Colour> chooseColour(Colour current) override;
+};
+
 class QtClock : public Clock {
 public:
     [[nodiscard]] int minuteAndSecond() const override;

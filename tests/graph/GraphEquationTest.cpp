@@ -1,6 +1,7 @@
 // Reading the tokens of a solved equation, and the value of y at a place.
 #include "FaultOf.hpp"
 #include "GraphEquation.hpp"
+#include "GraphWords.hpp"
 #include "TextTools.hpp"
 
 #include <gtest/gtest.h>
@@ -86,6 +87,15 @@ TEST(GraphEquationTest, WhatIsNoSolvedEquationIsNotRead) {
                               "y = + 1/1 y", "+ 1/1 y + 1/1 = x", "y = 1/2/3 x", "= x", "y = x = 2"}) {
         EXPECT_FALSE(readEquation(tokensOf(words))) << words;
     }
+}
+
+TEST(GraphEquationTest, IsSaidAsItWouldBeTyped) {
+    const auto said = [](std::string_view words) { return equationWords(equationOf(words)); };
+    EXPECT_EQ(said("+ 1/1 y ^ + 1 = - 2/3 x + 2/1"), "y = -2/3x + 2");
+    EXPECT_EQ(said("+ 3/1 y = - 1/1 x - 4/5"), "3y = -x - 4/5");
+    EXPECT_EQ(said("+ 1/1 x ^ + 1 = + 0/1"), "x = 0");
+    EXPECT_EQ(said("y ^ 2 = 4 x ^ - 1 + x ^ 1/2 - x ^ 3"), "y^2 = 4x^(-1) + x^(1/2) - x^3");
+    EXPECT_EQ(said("y = 2 ( x - 1 ) ^ 2 - | x |"), "y = 2(x - 1)^2 - |x|");
 }
 
 }  // namespace

@@ -1,0 +1,82 @@
+#include "GraphWords.hpp"
+
+#include "NumberText.hpp"
+#include "Workspace.hpp"
+
+#include <cmath>
+
+namespace ordwise {
+namespace {
+
+std::string ratio(double over, double under) {
+    return under == 1 ? textOf(over) : textOf(over) + "/" + textOf(under);
+}
+
+std::string sumWords(const std::vector<GraphTerm>& terms);
+
+std::string baseWords(const GraphTerm& term) {
+    switch (term.base) {
+        case GraphTerm::Base::X: return "x";
+        case GraphTerm::Base::Y: return "y";
+        case GraphTerm::Base::Group: return "(" + sumWords(term.inside) + ")";
+        case GraphTerm::Base::Bars: return "|" + sumWords(term.inside) + "|";
+        case GraphTerm::Base::One: break;
+    }
+    return "";
+}
+
+std::string powerWords(const GraphTerm& term) {
+    if (term.base == GraphTerm::Base::One || term.exponent == term.exponentRoot) return "";
+    const std::string exponent = ratio(term.exponent, term.exponentRoot);
+    const bool plain = term.exponent >= 0 && term.exponentRoot == 1;
+    return plain ? "^" + exponent : "^(" + exponent + ")";
+}
+
+// Without its sign. e.g. -2/3x -> 2/3x
+std::string termWords(const GraphTerm& term) {
+    const std::string coefficient = ratio(std::abs(term.numerator), term.denominator);
+    const bool said = coefficient != "1" || term.base == GraphTerm::Base::One;
+    return (said ? coefficient : "") + baseWords(term) + powerWords(term);
+}
+
+std::string sumWords(const std::vector<GraphTerm>& terms) {
+    std::string words;
+    for (const GraphTerm& term : terms) {
+        const bool minus = term.numerator < 0;
+        if (words.empty()) {
+            words = minus ? "-" : "";
+        } else {
+            words += minus ? " - " : " + ";
+        }
+        words += termWords(term);
+    }
+    return words;
+}
+
+std::string pointWords(double x, double y) {
+    return "(" + textOf(x) + ", " + textOf(y) + ")";
+}
+
+}  // namespace
+
+std::string equationWords(const GraphEquation& equation) {
+    return sumWords({equation.left}) + " = " + sumWords(equation.right);
+}
+
+std::string graphTitle(const GraphWindow& window) {
+    const std::string first = pointWords(ws.GraphX1, ws.GraphY1);
+    if (ws.GraphKind == 1) return first;
+    if (ws.GraphKind == 2) return first + " to " + pointWords(ws.GraphX2, ws.GraphY2);
+    return window.equationTerms ? equationWords(*window.equationTerms) : "";
+}
+
+std::string graphDescription(const GraphWindow& window) {
+    const std::string title = graphTitle(window);
+    const std::string bounds = " on axes from " + textOf(window.xMin) + " to " + textOf(window.xMax) + ".";
+    if (title.empty()) return "No graph" + bounds;
+    if (ws.GraphKind == 1) return "The point " + title + bounds;
+    if (ws.GraphKind == 2) return "The line from " + title + bounds;
+    return "The graph of " + title + bounds;
+}
+
+}  // namespace ordwise
