@@ -40,7 +40,6 @@ const DeskWindows::Row DeskWindows::rows[] = {
     {"frmPrintSetup", true, makeDialog<PrintSetupDialog>},
     {"frmPrintPreview", true, makeDialog<PrintPreviewDialog>},
     {"frmPracticeTest", true, makeDialog<PracticeTestDialog>},
-    {"frmOptions", true, [](QWidget* frame, Stage& stage) -> QWidget* { return new OptionsDialog(frame, stage); }},
     {"frmGraph", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new GraphView(frame, stage); }},
 };
 

@@ -31,7 +31,6 @@ namespace ordwise {
 namespace {
 
 constexpr int wheelNotch = 120;
-constexpr const char* noPrinter = "There is no printer.";
 
 QColor colourOf(Colour colour) {
     return QColor(colour.red, colour.green, colour.blue);
@@ -164,24 +163,21 @@ void GraphView::addMenus() {
 
 void GraphView::addFileMenu() {
     QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
-    file->addAction(QStringLiteral("Sa&ve Picture..."), QKeySequence::Save, this, [this] { savePicture(); });
+    file->addAction(QStringLiteral("Sa&ve Picture..."), QKeySequence::Save, this,
+                    [this] { run([this] { savePicture(); }); });
     file->addSeparator();
     add(*file, frmGraph.mnuGraphPrint, [this] { print(); }, {QKeySequence::Print});
-    add(*file, frmGraph.mnuGraphPrintSetup, [this] { setUpPrinter(); });
+    add(*file, frmGraph.mnuGraphPrintSetup, mnuGraphPrintSetup_Click);
     file->addSeparator();
     add(*file, frmGraph.mnuGraphExit, mnuGraphExit_Click, {Qt::Key_Escape, QKeySequence::Close});
 }
 
 void GraphView::addEditMenu() {
     QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
-    edit->addAction(QStringLiteral("&Copy Picture"), QKeySequence::Copy, this, [this] {
-        copyPicture();
-        say(QStringLiteral("The picture is on the clipboard."), false);
-    });
-    edit->addAction(QStringLiteral("Copy C&oordinates"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this, [this] {
-        copyCoordinates();
-        say(QStringLiteral("The coordinates are on the clipboard."), false);
-    });
+    edit->addAction(QStringLiteral("&Copy Picture"), QKeySequence::Copy, this,
+                    [this] { run([this] { copyPicture(); }); });
+    edit->addAction(QStringLiteral("Copy C&oordinates"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_C), this,
+                    [this] { run([this] { copyCoordinates(); }); });
 }
 
 void GraphView::addViewMenu() {
@@ -228,30 +224,17 @@ QPushButton& GraphView::button(const Control& control) const {
 }
 
 void GraphView::run(const std::function<void()>& routine) {
-    say({}, false);
     stage_.perform(routine);
 }
 
-void GraphView::say(const QString& sentence, bool refused) {
-    message_ = sentence;
-    refused_ = refused;
-    status_->showSentence(message_.isEmpty() ? qstringOf(graphDescription(frmGraph)) : message_, refused_);
+// Both windows tell the news of a command; a complaint stands out in the one that was asked.
+void GraphView::tell(const QString& sentence, bool complaint) {
+    frmMain.StatusText = sentence.toStdString();
+    complaint_ = complaint ? frmMain.StatusText : std::string();
 }
 
 void GraphView::print() {
-    if (platform.printer == nullptr) {
-        say(QString::fromLatin1(noPrinter), true);
-    } else if (!PrintTheGraph()) {
-        say(qstringOf(frmMain.StatusText), true);
-    }
-}
-
-void GraphView::setUpPrinter() {
-    if (platform.printer == nullptr) {
-        say(QString::fromLatin1(noPrinter), true);
-    } else {
-        mnuGraphPrintSetup_Click();
-    }
+    if (!PrintTheGraph()) complaint_ = frmMain.StatusText;
 }
 
 // The picture that fills the screen has what the window's own parts leave of it.
@@ -274,15 +257,16 @@ PictureSource GraphView::picture() const {
 }
 
 // As pixels and as shapes: the program that takes it chooses.
-void GraphView::copyPicture() const {
+void GraphView::copyPicture() {
     auto* copied = new QMimeData;
     copied->setImageData(imageOf(picture()));
     copied->setData(QStringLiteral("image/svg+xml"), pictureBytes(picture(), QStringLiteral("svg")));
     QApplication::clipboard()->setMimeData(copied);
+    tell(QStringLiteral("The picture is on the clipboard."), false);
 }
 
 // The lines chosen in the list, or all of them.
-void GraphView::copyCoordinates() const {
+void GraphView::copyCoordinates() {
     QModelIndexList chosen = list_->selectionModel()->selectedIndexes();
     std::sort(chosen.begin(), chosen.end());
     QStringList lines;
@@ -291,6 +275,7 @@ void GraphView::copyCoordinates() const {
         for (const std::string& line : frmGraph.List1.List) lines << qstringOf(line);
     }
     QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+    tell(QStringLiteral("The coordinates are on the clipboard."), false);
 }
 
 void GraphView::savePicture() {
@@ -300,7 +285,7 @@ void GraphView::savePicture() {
     if (!file) return;
     const QString path = QFile::decodeName(QByteArray::fromStdString(*file));
     const QString trouble = writePicture(picture(), path);
-    say(trouble.isEmpty() ? QStringLiteral("The picture is in '%1'.").arg(path) : trouble, !trouble.isEmpty());
+    tell(trouble.isEmpty() ? QStringLiteral("The picture is in '%1'.").arg(path) : trouble, !trouble.isEmpty());
 }
 
 void GraphView::showChanges() {
@@ -310,7 +295,9 @@ void GraphView::showChanges() {
     rows_->showRows(frmGraph.List1.List);
     const QString title = qstringOf(graphTitle(frmGraph));
     setWindowTitle(title.isEmpty() ? QStringLiteral("Graph") : title + QStringLiteral(" - Graph"));
-    say(message_, refused_);
+    const std::string& news = frmMain.StatusText;
+    status_->showSentence(qstringOf(news.empty() ? graphDescription(frmGraph) : news),
+                          !news.empty() && news == complaint_);
 }
 
 void GraphView::showControls() {
@@ -363,7 +350,7 @@ bool GraphView::eventFilter(QObject* watched, QEvent* event) {
     if (watched != canvas_) return QMainWindow::eventFilter(watched, event);
     switch (event->type()) {
         case QEvent::Resize:
-            if (!fitting_ && frmGraph.Loaded) stage_.perform([this] { writeSize(); });
+            if (!fitting_ && frmGraph.Loaded) stage_.tick([this] { writeSize(); });
             break;
         case QEvent::Wheel: turnWheel(static_cast<QWheelEvent*>(event)->angleDelta().y()); return true;
         case QEvent::MouseMove: {

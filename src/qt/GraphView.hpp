@@ -68,9 +68,6 @@ public:
     [[nodiscard]] QAction& actionOf(const Control& menu) const;
     [[nodiscard]] QPushButton& button(const Control& control) const;
 
-    void copyPicture() const;
-    void savePicture();
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
@@ -89,11 +86,12 @@ private:
 
     void placeBeside(const QWidget& frame);
     void run(const std::function<void()>& routine);
-    void say(const QString& sentence, bool refused);
+    void tell(const QString& sentence, bool complaint);
     void print();
-    void setUpPrinter();
     void fillScreen();
-    void copyCoordinates() const;
+    void copyPicture();
+    void copyCoordinates();
+    void savePicture();
     [[nodiscard]] PictureSource picture() const;
 
     void showControls();
@@ -112,10 +110,9 @@ private:
     StatusLine* status_;
     QLabel* coordinates_;
     std::vector<std::pair<const Control*, QAction*>> actions_;
-    QString message_;  // what the last command had to tell
-    bool refused_ = false;
-    bool fitting_ = false;  // the window follows the data, not the data the window
-    int wheel_ = 0;         // turned since the last zoom, in eighths of a degree
+    std::string complaint_;  // what the last command of this window had to complain of
+    bool fitting_ = false;   // the window follows the data, not the data the window
+    int wheel_ = 0;          // turned since the last zoom, in eighths of a degree
 };
 
 }  // namespace ordwise

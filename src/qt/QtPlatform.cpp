@@ -23,12 +23,6 @@ QString nameFilter(const std::string& filter) {
     return description + QStringLiteral(" (") + text.section(QLatin1Char('|'), 1, 1) + QLatin1Char(')');
 }
 
-// A dialog belongs to the window from which it was asked for, which need not be the frame.
-QWidget* windowInUse(QWidget* frame) {
-    QWidget* active = QApplication::activeWindow();
-    return active != nullptr ? active : frame;
-}
-
 std::optional<std::string> chosen(QFileDialog& dialog, const FileQuestion& question) {
     dialog.setWindowTitle(qstringOf(question.title));
     dialog.setNameFilter(nameFilter(question.filter));
@@ -40,6 +34,11 @@ std::optional<std::string> chosen(QFileDialog& dialog, const FileQuestion& quest
 }
 
 }  // namespace
+
+QWidget* windowInUse(QWidget* frame) {
+    QWidget* active = QApplication::activeWindow();
+    return active != nullptr ? active : frame;
+}
 
 std::optional<std::string> QtFileDialogs::fileToSave(const FileQuestion& question) {
     QFileDialog dialog(windowInUse(parent));
@@ -70,7 +69,7 @@ std::string QtDialogs::inputBox(std::string_view prompt, std::string_view captio
 
 std::optional<Colour> QtColours::chooseColour(Colour current) {
     const QColor chosen =
-        QColorDialog::getColor(QColor(current.red, current.green, current.blue), QApplication::activeWindow());
+        QColorDialog::getColor(QColor(current.red, current.green, current.blue), windowInUse(nullptr));
     if (!chosen.isValid()) return std::nullopt;
     const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
     return Colour{part(chosen.red()), part(chosen.green()), part(chosen.blue())};

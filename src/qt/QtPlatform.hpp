@@ -9,6 +9,9 @@ class QWidget;
 
 namespace ordwise {
 
+// A dialog belongs to the window from which it was asked for, which need not be the frame.
+[[nodiscard]] QWidget* windowInUse(QWidget* frame);
+
 class QtDialogs : public Dialogs {
 public:
     QWidget* parent = nullptr;

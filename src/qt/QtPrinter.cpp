@@ -2,6 +2,7 @@
 
 #include "Art.hpp"
 #include "PagePainter.hpp"
+#include "QtPlatform.hpp"
 #include "TextTools.hpp"
 #include "Windows.hpp"
 
@@ -97,7 +98,7 @@ std::string QtPrinter::printToDevice(const PrintJob& job) {
 }
 
 void QtPrinter::setup() {
-    QPrintDialog dialog(&device(), parent);
+    QPrintDialog dialog(&device(), windowInUse(parent));
     dialog.setWindowTitle(QStringLiteral("Print Setup"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     // What is chosen here holds for the next job; nothing is printed yet.
