@@ -34,6 +34,8 @@ public:
     // A chance for a window to show what has changed in the middle of a command, such as a problem
     // being written key by key.
     virtual void redraw(std::string_view /*name*/) {}
+    // Opens one of the main window's hidden menus where the mouse is. e.g. "mnuHidden"
+    virtual void popUp(std::string_view /*menu*/) {}
 };
 
 class Clock {

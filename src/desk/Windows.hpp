@@ -79,6 +79,15 @@ struct PaperWindow {
     TimerControl wizIn{false, 10};
     TimerControl WizOut{false, 10};
 
+    // Of the assistant: its full size, the divisor of its size while it grows and shrinks, where in
+    // the picture the mouse took hold of it, and where it stood then.
+    static constexpr double fullWizardWidth = 110;
+    static constexpr double fullWizardHeight = 150;
+    double WizardScale = 1;
+    Int16 GrabX, GrabY;
+    Int16 PressLeft, PressTop;
+    Int16 PencilCount;  // strokes of the pencil since the last key
+
     // Text1 to Text6 and Combo1 to Combo3 by number; fault 9 for a number outside.
     [[nodiscard]] Control& box(int number);
     [[nodiscard]] ComboControl& combo(int number);

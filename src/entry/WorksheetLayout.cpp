@@ -123,8 +123,12 @@ void placeAssistant() {
     ws.AssistantKey = "wiz" + textOf(static_cast<int>(ws.AssistantChoice));
     frmPaper.Wizard.Image = ws.AssistantKey;
     frmPaper.Wizard.ToolTip = "Click me for an explanation!";
-    frmPaper.Wizard.Visible = frmMain.mnuHideWiz.Checked;
-    place(frmPaper.Wizard, 880, 420, 110, 150);
+    place(frmPaper.Wizard, 880, 420, PaperWindow::fullWizardWidth, PaperWindow::fullWizardHeight);
+    // It comes by growing, and is seen from the first tick on.
+    frmPaper.Wizard.Visible = false;
+    frmPaper.WizardScale = 10;
+    frmPaper.wizIn.Enabled = frmMain.mnuHideWiz.Checked;
+    frmPaper.WizOut.Enabled = false;
     place(frmPaper.Click, 865, 400, 29, 32);
 }
 
@@ -162,6 +166,7 @@ void clearDesk() {
     frmPaper.Pencil.Image = "pencil1";
     place(frmPaper.Pencil, sheetLeft + lineStart - 9, sheetTop - 122, 120, 267);
     frmPaper.Timer1.Enabled = false;
+    frmPaper.PencilCount = 0;
     frmPaper.Timer2.Enabled = false;
     frmPaper.clickMe.Enabled = false;
     frmPaper.Click.Visible = false;

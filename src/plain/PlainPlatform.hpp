@@ -43,13 +43,14 @@ public:
     std::string inputBox(std::string_view prompt, std::string_view caption) override;
 };
 
-// Keeps the names of the windows that were asked for, "+frmGraph" shown and "-frmGraph" unloaded.
+// Keeps the names of what was asked for: "+frmGraph" shown, "-frmGraph" unloaded, "^mnuHidden" popped up.
 class PlainWindows : public WindowOpener {
 public:
     std::vector<std::string> requests;
 
     void show(std::string_view name) override { requests.push_back("+" + std::string(name)); }
     void unload(std::string_view name) override { requests.push_back("-" + std::string(name)); }
+    void popUp(std::string_view menu) override { requests.push_back("^" + std::string(menu)); }
 };
 
 class PlainClock : public Clock {

@@ -1,12 +1,15 @@
 #include "DeskView.hpp"
 
 #include "Art.hpp"
+#include "AssistantLogic.hpp"
 #include "BoxEdit.hpp"
 #include "DeskEvents.hpp"
 #include "ExplanationPopup.hpp"
+#include "FrameMenus.hpp"
 #include "GuidedInput.hpp"
 #include "KeyText.hpp"
 #include "PictureButton.hpp"
+#include "PopUpMenu.hpp"
 #include "SheetPainter.hpp"
 #include "SheetView.hpp"
 #include "Stage.hpp"
@@ -18,6 +21,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ordwise {
 
@@ -32,6 +36,11 @@ public:
         if (key_ == control.Image) return;
         key_ = control.Image;
         update();
+    }
+    // True where the picture itself is, and not only the paper around it.
+    [[nodiscard]] bool covers(const QPoint& place) const {
+        if (!isVisible() || !geometry().contains(place)) return false;
+        return qAlpha(artPixmap(key_, size(), 1).toImage().pixel(place - pos())) > 0;
     }
 
 protected:
@@ -48,8 +57,6 @@ namespace {
 
 constexpr double smallestScale = 0.4;
 constexpr double largestScale = 4;
-// A drag shorter than this, along and across, is a click.
-constexpr double clickSlack = 10;
 
 void follow(QTimer& timer, const TimerControl& control, bool allowed) {
     const bool runs = control.Enabled && allowed;
@@ -89,14 +96,19 @@ DeskView::DeskView(QWidget* parent, Stage& stage)
     light_->setObjectName(QStringLiteral("Light"));
     wizard_->setObjectName(QStringLiteral("Wizard"));
     click_->setObjectName(QStringLiteral("Click"));
-    wizard_->installEventFilter(this);
-    QObject::connect(light_, &QAbstractButton::clicked, this, [this] { stage_.perform(Light_MouseUp); });
-    QObject::connect(wizard_, &QAbstractButton::clicked, this, [this] {
-        if (draggedBy_ < clickSlack) stage_.perform(Wizard_Click);
-    });
-    QObject::connect(click_, &QAbstractButton::clicked, this, [this] { stage_.perform(Click_MouseUp); });
-    QObject::connect(&blink_, &QTimer::timeout, this, [this] { stage_.tick(Timer2_Timer); });
-    QObject::connect(&signal_, &QTimer::timeout, this, [this] { stage_.tick(clickMe_Timer); });
+    for (PictureButton* picture : {light_, wizard_, click_}) picture->installEventFilter(this);
+    QObject::connect(light_, &QAbstractButton::clicked, this,
+                     [this] { stage_.perform([] { Light_MouseUp(MouseButton::Left); }); });
+    QObject::connect(wizard_, &QAbstractButton::clicked, this, [this] { stage_.perform(Wizard_Click); });
+    QObject::connect(click_, &QAbstractButton::clicked, this,
+                     [this] { stage_.perform([] { Click_MouseUp(MouseButton::Left); }); });
+    const std::pair<QTimer*, void (*)()> timers[] = {{&blink_, Timer2_Timer},
+                                                     {&signal_, clickMe_Timer},
+                                                     {&growth_, wizIn_Timer},
+                                                     {&shrinking_, WizOut_Timer},
+                                                     {&strokes_, Timer1_Timer}};
+    for (const auto& [timer, routine] : timers)
+        QObject::connect(timer, &QTimer::timeout, this, [this, routine = routine] { stage_.tick(routine); });
 }
 
 void DeskView::setSteady(bool steady) {
@@ -137,6 +149,7 @@ void DeskView::fitScale() {
 }
 
 void DeskView::showChanges() {
+    if (steady_) finishAnimations();
     fitScale();
     growToSheets();
     for (SheetView* sheet : sheets_) sheet->showChanges(scale_, steady_);
@@ -205,6 +218,9 @@ void DeskView::stackWindows() {
 void DeskView::runTimers() {
     follow(blink_, frmPaper.Timer2, !steady_);
     follow(signal_, frmPaper.clickMe, !steady_ && frmPaper.Wizard.Visible);
+    follow(growth_, frmPaper.wizIn, true);
+    follow(shrinking_, frmPaper.WizOut, true);
+    follow(strokes_, frmPaper.Timer1, true);
 }
 
 // Tells a screen reader what changed on the paper.
@@ -247,24 +263,76 @@ void DeskView::mousePressEvent(QMouseEvent*) {
     setFocus(Qt::MouseFocusReason);
 }
 
-// The assistant is dragged by its picture.
-bool DeskView::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != wizard_) return false;
-    if (event->type() == QEvent::MouseButtonPress) {
-        grab_ = static_cast<QMouseEvent*>(event)->globalPosition();
-        pressed_ = true;
-        draggedBy_ = 0;
-    } else if (event->type() == QEvent::MouseMove && pressed_) {
-        const QPointF at = static_cast<QMouseEvent*>(event)->globalPosition();
-        const QPointF by = (at - grab_) / scale_;
-        grab_ = at;
-        draggedBy_ = std::max({draggedBy_, std::abs(by.x()), std::abs(by.y())});
-        stage_.perform([&] { Wizard_MouseMove(by.x(), by.y()); });
-    } else if (event->type() == QEvent::MouseButtonRelease && pressed_) {
-        pressed_ = false;
-        stage_.perform([this] { Wizard_MouseUp(width() / scale_, height() / scale_); });
+// The pencil lets presses through to the sheet, so whoever lies below passes a right click on to here.
+void DeskView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::RightButton) return;
+    const QPoint place = mapFromGlobal(event->globalPosition().toPoint());
+    for (StillPicture* pencil : {pencil_, deskPencil_}) {
+        if (pencil->covers(place)) askForMenu(pencil, event->globalPosition().toPoint());
     }
-    return false;
+}
+
+void DeskView::letSeeWriting() {
+    if (!steady_ && isVisible()) writing_.letSee(stage_);
+}
+
+void DeskView::popUp(std::string_view menu) {
+    const MenuTable table = menu == "mnuHidden"    ? assistantPopUp()
+                            : menu == "mnuHidden2" ? pencilPopUp()
+                                                   : lightPopUp();
+    showPopUp(table, *this, stage_, menuPlace_);
+}
+
+void DeskView::askForMenu(QObject* of, const QPoint& place) {
+    menuPlace_ = place;
+    stage_.perform([this, of] {
+        if (of == wizard_) return Wizard_MouseUp(MouseButton::Right, width() / scale_, height() / scale_);
+        if (of == click_) return Click_MouseUp(MouseButton::Right);
+        if (of == light_) return Light_MouseUp(MouseButton::Right);
+        Pencil_MouseUp(MouseButton::Right);
+    });
+}
+
+bool DeskView::eventFilter(QObject* watched, QEvent* event) {
+    return rightClick(watched, *event) || (watched == wizard_ && wizardMouse(*event));
+}
+
+// The right button, and the key for menus while the picture has the keyboard.
+bool DeskView::rightClick(QObject* watched, QEvent& event) {
+    if (event.type() == QEvent::ContextMenu) {
+        const auto& asked = static_cast<QContextMenuEvent&>(event);
+        if (asked.reason() == QContextMenuEvent::Keyboard) askForMenu(watched, asked.globalPos());
+        return true;
+    }
+    if (event.type() != QEvent::MouseButtonPress && event.type() != QEvent::MouseButtonRelease) return false;
+    const auto& mouse = static_cast<QMouseEvent&>(event);
+    if (mouse.button() != Qt::RightButton) return false;
+    if (event.type() == QEvent::MouseButtonRelease) askForMenu(watched, mouse.globalPosition().toPoint());
+    return true;
+}
+
+QPointF DeskView::onDesk(const QPointF& global) const {
+    return mapFromGlobal(global) / scale_;
+}
+
+// The assistant is dragged by its picture; a click is a short drag, and the logic says how short.
+bool DeskView::wizardMouse(const QEvent& event) {
+    const QEvent::Type type = event.type();
+    const bool ours = type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick ||
+                      type == QEvent::MouseMove || type == QEvent::MouseButtonRelease;
+    if (!ours) return false;
+    const auto& mouse = static_cast<const QMouseEvent&>(event);
+    const QPointF at = onDesk(mouse.globalPosition()) - QPointF(frmPaper.Wizard.Left, frmPaper.Wizard.Top);
+    if (type == QEvent::MouseMove) {
+        if (dragged_) stage_.tick([&] { Wizard_MouseMove(at.x(), at.y()); });
+    } else if (mouse.button() == Qt::LeftButton) {
+        const bool released = type == QEvent::MouseButtonRelease;
+        if (released && dragged_)
+            stage_.perform([this] { Wizard_MouseUp(MouseButton::Left, width() / scale_, height() / scale_); });
+        if (!released) Wizard_MouseDown(at.x(), at.y());
+        dragged_ = !released;
+    }
+    return true;
 }
 
 }  // namespace ordwise

@@ -3,11 +3,13 @@
 #pragma once
 
 #include "Windows.hpp"
+#include "WritingPause.hpp"
 
 #include <QTimer>
 #include <QWidget>
 
 #include <array>
+#include <string_view>
 
 namespace ordwise {
 
@@ -26,7 +28,7 @@ public:
     DeskView(QWidget* parent, Stage& stage);
 
     void showChanges();
-    // A blink that stands still, for those whom it disturbs.
+    // Nothing blinks or moves by itself, for those whom it disturbs.
     void setSteady(bool steady);
     [[nodiscard]] bool steady() const { return steady_; }
 
@@ -40,6 +42,11 @@ public:
     [[nodiscard]] PictureButton& assistant() const { return *wizard_; }
     [[nodiscard]] ExplanationPopup& explanation() const { return *explanation_; }
 
+    // Shows for the time of a key how a problem is written; nothing on a desk that holds still.
+    void letSeeWriting();
+    // Opens a hidden menu of the main window where the mouse or the key asked for it. e.g. "mnuHidden"
+    void popUp(std::string_view menu);
+
     // Takes the keyboard: the first box of a box topic, otherwise the desk itself.
     void takeKeys();
     // The part of the desk that the window shows has this size.
@@ -51,6 +58,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     [[nodiscard]] static QSizeF deskSize();
@@ -60,6 +68,10 @@ private:
     void stackWindows();
     void runTimers();
     void announce();
+    bool wizardMouse(const QEvent& event);
+    bool rightClick(QObject* watched, QEvent& event);
+    void askForMenu(QObject* of, const QPoint& place);
+    [[nodiscard]] QPointF onDesk(const QPointF& global) const;
 
     Stage& stage_;
     double zoom_ = 1;
@@ -76,10 +88,13 @@ private:
     std::array<int, PaperWindow::lastSheet + 1> stacked_{};  // sheets from the lowest to the foremost
     QTimer blink_;
     QTimer signal_;
+    QTimer growth_;
+    QTimer shrinking_;
+    QTimer strokes_;
+    WritingPause writing_;
     QString announced_;
-    QPointF grab_;
-    bool pressed_ = false;
-    double draggedBy_ = 0;
+    bool dragged_ = false;
+    QPoint menuPlace_;
 };
 
 }  // namespace ordwise

@@ -1,6 +1,7 @@
 #include "DeskWindows.hpp"
 
 #include "ChooserDialog.hpp"
+#include "DeskView.hpp"
 #include "FrameWindow.hpp"
 #include "GraphView.hpp"
 #include "OptionsDialog.hpp"
@@ -90,8 +91,13 @@ void DeskWindows::unload(std::string_view name) {
     }
 }
 
-void DeskWindows::redraw(std::string_view /*name*/) {
+void DeskWindows::redraw(std::string_view name) {
     stage_.show();
+    if (name == "frmPaper") frame_.desk().letSeeWriting();
+}
+
+void DeskWindows::popUp(std::string_view menu) {
+    frame_.desk().popUp(menu);
 }
 
 void DeskWindows::showChanges() const {

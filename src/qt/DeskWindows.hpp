@@ -39,6 +39,7 @@ public:
     void show(std::string_view name) override;
     void unload(std::string_view name) override;
     void redraw(std::string_view name) override;
+    void popUp(std::string_view menu) override;
 
     // Every open window shows what has changed.
     void showChanges() const;

@@ -220,7 +220,7 @@ void SheetView::paintEvent(QPaintEvent*) {
 }
 
 void SheetView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton) return;
+    if (event->button() != Qt::LeftButton) return event->ignore();
     parentWidget()->setFocus(Qt::MouseFocusReason);
     grab_ = event->globalPosition();
     dragged_ = true;
@@ -234,7 +234,8 @@ void SheetView::mouseMoveEvent(QMouseEvent* event) {
     stage_.perform([&] { Paper_MouseMove(number_, by.x(), by.y()); });
 }
 
-void SheetView::mouseReleaseEvent(QMouseEvent*) {
+void SheetView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return event->ignore();
     dragged_ = false;
 }
 

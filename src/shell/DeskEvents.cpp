@@ -12,14 +12,6 @@
 namespace ordwise {
 namespace {
 
-// The figure keeps clear of the right and lower border of the desk.
-constexpr double rightGap = 8;
-constexpr double lowerGap = 27;
-
-void explainStepInView() {
-    if (!ws.StepNotes[ws.ShownStep].empty()) platform.windows->show("frmExplain");
-}
-
 bool lightIsRed() {
     return frmPaper.Light.Image == "light3";
 }
@@ -51,19 +43,6 @@ std::string shownLine() {
 
 }  // namespace
 
-void Light_MouseUp() {
-    ws.ExplainOverride = lightIsRed();
-    if (ws.ExplainOverride) platform.windows->show("frmExplain");
-}
-
-void Wizard_Click() {
-    explainStepInView();
-}
-
-void Click_MouseUp() {
-    explainStepInView();
-}
-
 void Paper_MouseDown(int sheet) {
     frmPaper.Paper[sheet].Order = ++frmPaper.FrontOrder;
 }
@@ -75,25 +54,6 @@ void Paper_MouseMove(int sheet, double byX, double byY) {
     if (sheet != 0) return;
     frmPaper.Pencil.Left += byX;
     frmPaper.Pencil.Top += byY;
-}
-
-void Wizard_MouseMove(double byX, double byY) {
-    frmPaper.Wizard.Left += byX;
-    frmPaper.Wizard.Top += byY;
-    frmPaper.Click.Left += byX;
-    frmPaper.Click.Top += byY;
-}
-
-void Wizard_MouseUp(double width, double height) {
-    Control& wizard = frmPaper.Wizard;
-    const double left = wizard.Left;
-    const double top = wizard.Top;
-    wizard.Left = std::max(wizard.Left, 0.0);
-    wizard.Top = std::max(wizard.Top, 0.0);
-    if (wizard.Left + wizard.Width + rightGap > width) wizard.Left = width - wizard.Width - rightGap;
-    if (wizard.Top + wizard.Height + lowerGap > height) wizard.Top = height - wizard.Height - lowerGap;
-    frmPaper.Click.Left += wizard.Left - left;
-    frmPaper.Click.Top += wizard.Top - top;
 }
 
 void Box_KeyPress(int number, std::string_view key) {

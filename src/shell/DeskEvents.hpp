@@ -1,5 +1,5 @@
-// What the mouse and the keys do on the desk besides typing: the light, the assistant and its
-// signal, the sheets, the boxes.
+// What the mouse and the keys do on the desk besides typing, with the sheets and the boxes; what the
+// desk says. The assistant, the light and the pencil stand in AssistantLogic.hpp.
 #pragma once
 
 #include <string>
@@ -7,20 +7,10 @@
 
 namespace ordwise {
 
-// The light: a red one tells why the last key was refused.
-void Light_MouseUp();
-// The assistant and the signal beside it: the note of the step in view, if there is one.
-void Wizard_Click();
-void Click_MouseUp();
-
 // A pressed sheet comes to the front.
 void Paper_MouseDown(int sheet);
 // Moves a sheet on the desk, where it stays; the pencil lies on the first sheet and goes along.
 void Paper_MouseMove(int sheet, double byX, double byY);
-// The assistant dragged by (byX, byY).
-void Wizard_MouseMove(double byX, double byY);
-// The assistant let go: it stays within a desk of `width` by `height`.
-void Wizard_MouseUp(double width, double height);
 
 // A key in a box, with the light as on the paper: green, or red when it is refused.
 void Box_KeyPress(int number, std::string_view key);

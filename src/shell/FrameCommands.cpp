@@ -1,5 +1,6 @@
 #include "FrameCommands.hpp"
 
+#include "AssistantLogic.hpp"
 #include "Examples.hpp"
 #include "GuidedInput.hpp"
 #include "Platform.hpp"
@@ -89,10 +90,11 @@ void mnuShowStep_Click() {
 
 void mnuHideWiz_Click() {
     toggle(frmMain.mnuHideWiz);
-    frmPaper.Wizard.Visible = frmMain.mnuHideWiz.Checked;
-    if (frmPaper.Wizard.Visible) return;
-    frmPaper.clickMe.Enabled = false;
-    frmPaper.Click.Visible = false;
+    if (frmMain.mnuHideWiz.Checked) {
+        bringAssistant();
+    } else {
+        sendAssistantAway();
+    }
 }
 
 void mnuShowLight_Click() {

@@ -4,6 +4,7 @@
 #include "DeskView.hpp"
 #include "FreshProgram.hpp"
 
+#include <QAction>
 #include <QApplication>
 #include <QPointer>
 #include <QTest>
@@ -18,6 +19,11 @@ DeskTest::DeskTest() {
     frame->show();
     frame->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(frame.get()));
+    setSteady(true);
+}
+
+void DeskTest::setSteady(bool steady) {
+    child<QAction>("steadySignals").setChecked(steady);
 }
 
 DeskTest::~DeskTest() {

@@ -19,6 +19,8 @@ protected:
     DeskTest();
     ~DeskTest() override;
 
+    // Whether the desk holds still; it does unless a test wants to see it move.
+    void setSteady(bool steady);
     // New Problem by its key; the topic is found by typing into the search box.
     void choose(const QString& typed);
     // What a person does with the next dialog; the test fails if none opens.

@@ -290,19 +290,6 @@ TEST_F(Desk, the_light_and_the_assistant_are_reached_by_keys) {
     EXPECT_EQ(ws.ProblemText, "5") << "typing reaches the paper from anywhere on the desk";
 }
 
-TEST_F(Desk, a_dragged_assistant_does_not_speak) {
-    choose(QStringLiteral("arithmetic"));
-    PictureButton& wizard = frame->desk().assistant();
-    const double left = frmPaper.Wizard.Left;
-    QTest::mousePress(&wizard, Qt::LeftButton, {}, QPoint(50, 50));
-    QTest::mouseMove(&wizard, QPoint(10, 20));
-    QTest::mouseRelease(&wizard, Qt::LeftButton, {}, QPoint(50, 50));
-    EXPECT_LT(frmPaper.Wizard.Left, left - 20);
-    EXPECT_FALSE(child<>("frmExplain").isVisible());
-    clickOn(wizard);
-    EXPECT_TRUE(child<>("frmExplain").isVisible());
-}
-
 TEST_F(Desk, zoom_makes_everything_larger_and_fits_again) {
     choose(QStringLiteral("area of a circle"));
     const int sheet = frame->desk().sheet(0).width();
@@ -332,15 +319,13 @@ TEST_F(Desk, boxes_stay_light_on_a_dark_desktop) {
 TEST_F(Desk, signals_blink_or_stand_still) {
     choose(QStringLiteral("fraction arithmetic"));
     type(QStringLiteral("1/2+1/3"));
-    auto* steady = frame->findChild<QAction*>(QStringLiteral("steadySignals"));
-    ASSERT_NE(steady, nullptr);
-    steady->setChecked(false);
+    setSteady(false);
     press(Qt::Key_F5);
     PictureButton& next = frame->desk().sheet(0).blinker();
     ASSERT_TRUE(next.isVisible());
     const std::string first = next.imageKey();
     EXPECT_TRUE(QTest::qWaitFor([&] { return next.imageKey() != first; }, 1000)) << "it blinks";
-    steady->setChecked(true);
+    setSteady(true);
     const std::string still = next.imageKey();
     EXPECT_FALSE(QTest::qWaitFor([&] { return next.imageKey() != still; }, 900)) << "it stands still";
     EXPECT_TRUE(next.isVisible());

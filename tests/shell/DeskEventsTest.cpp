@@ -28,53 +28,8 @@ protected:
         for (const char key : keys) insertCharacter(std::string_view(&key, 1));
     }
 
-    [[nodiscard]] bool explanationAsked() const {
-        return !outside.windows.requests.empty() && outside.windows.requests.back() == "+frmExplain";
-    }
-
     PlainPlatform outside;
 };
-
-TEST_F(DeskEvents, only_a_red_light_tells_a_reason) {
-    open("Arithmetic");
-    outside.windows.requests.clear();
-    Light_MouseUp();
-    EXPECT_FALSE(explanationAsked());
-    typeKeys("4+");
-    Light_MouseUp();
-    EXPECT_FALSE(explanationAsked());
-    typeKeys("+");
-    Light_MouseUp();
-    EXPECT_TRUE(explanationAsked());
-    EXPECT_TRUE(ws.ExplainOverride);
-}
-
-TEST_F(DeskEvents, the_assistant_speaks_only_if_there_is_something_to_say) {
-    open("Arithmetic");
-    outside.windows.requests.clear();
-    ws.StepNotes[ws.ShownStep] = "";
-    Wizard_Click();
-    Click_MouseUp();
-    mnuExp_Click();
-    EXPECT_TRUE(outside.windows.requests.empty());
-    ws.StepNotes[ws.ShownStep] = "Add.";
-    Wizard_Click();
-    EXPECT_TRUE(explanationAsked());
-}
-
-TEST_F(DeskEvents, the_assistant_stays_on_the_desk_with_its_signal_beside_it) {
-    open("Arithmetic");
-    const double apart = frmPaper.Click.Left - frmPaper.Wizard.Left;
-    Wizard_MouseMove(5000, -5000);
-    Wizard_MouseUp(1024, 740);
-    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Left, 1024 - frmPaper.Wizard.Width - 8);
-    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Top, 0);
-    EXPECT_DOUBLE_EQ(frmPaper.Click.Left - frmPaper.Wizard.Left, apart);
-    Wizard_MouseMove(-5000, 5000);
-    Wizard_MouseUp(1024, 740);
-    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Left, 0);
-    EXPECT_DOUBLE_EQ(frmPaper.Wizard.Top, 740 - frmPaper.Wizard.Height - 27);
-}
 
 TEST_F(DeskEvents, the_pencil_goes_with_the_first_sheet) {
     open("Arithmetic");
@@ -129,10 +84,6 @@ TEST_F(DeskEvents, options_change_the_desk_at_once) {
     open("Arithmetic");
     mnuShowLight_Click();
     EXPECT_FALSE(frmPaper.Light.Visible);
-    frmPaper.clickMe.Enabled = true;
-    mnuHideWiz_Click();
-    EXPECT_FALSE(frmPaper.Wizard.Visible);
-    EXPECT_FALSE(frmPaper.clickMe.Enabled);
     mnuConvertDF_Click();
     EXPECT_EQ(frmMain.Toolbar1[MainWindow::buttonFracdec].Image, "fracdec2");
     EXPECT_FALSE(ws.UseFractions);
