@@ -85,7 +85,7 @@ public:
     // line without notches or knots where its segments meet.
     void operator()(const Stroke& stroke) {
         const QPointF from(stroke.x1, stroke.y1);
-        const QPen pen(colourOf(stroke.colour), stroke.width, Qt::SolidLine, Qt::SquareCap, Qt::RoundJoin);
+        const QPen pen(colourOf(stroke.colour), stroke.width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
         if (path_.isEmpty() || path_.last() != from || pen != pen_) {
             finishPath();
             pen_ = pen;

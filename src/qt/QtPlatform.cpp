@@ -27,7 +27,8 @@ std::optional<std::string> chosen(QFileDialog& dialog, const FileQuestion& quest
     dialog.setWindowTitle(qstringOf(question.title));
     dialog.setNameFilter(nameFilter(question.filter));
     dialog.setDefaultSuffix(qstringOf(question.defaultExtension));
-    if (!question.directory.empty()) dialog.setDirectory(qstringOf(question.directory));
+    const QString place = qstringOf(question.directory);
+    dialog.setDirectory(!place.isEmpty() && QDir(place).exists() ? place : QDir::homePath());
     if (!question.proposedName.empty()) dialog.selectFile(qstringOf(question.proposedName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
