@@ -32,11 +32,12 @@ std::string powerWords(const GraphTerm& term) {
     return plain ? "^" + exponent : "^(" + exponent + ")";
 }
 
-// Without its sign. e.g. -2/3x -> 2/3x
+// Without its sign. e.g. -2/3x -> 2x/3
 std::string termWords(const GraphTerm& term) {
-    const std::string coefficient = ratio(std::abs(term.numerator), term.denominator);
-    const bool said = coefficient != "1" || term.base == GraphTerm::Base::One;
-    return (said ? coefficient : "") + baseWords(term) + powerWords(term);
+    const std::string letters = baseWords(term) + powerWords(term);
+    const std::string over = textOf(std::abs(term.numerator));
+    const std::string under = term.denominator == 1 ? "" : "/" + textOf(term.denominator);
+    return (over == "1" && !letters.empty() ? "" : over) + letters + under;
 }
 
 std::string sumWords(const std::vector<GraphTerm>& terms) {

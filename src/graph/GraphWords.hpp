@@ -7,7 +7,7 @@
 
 namespace ordwise {
 
-// The equation as one would type it. e.g. y = -2/3x + 2, y = x^(1/2), y^2 = 4x, x = 3
+// The equation as one would type it. e.g. y = -2x/3 + 2, y = x^(1/2), y^2 = 4x, x = 3
 [[nodiscard]] std::string equationWords(const GraphEquation& equation);
 
 // What the solve handed over. e.g. "y = 2x + 3", "(3, 4)", "(1, 2) to (5, 6)"; "" for no equation

@@ -4,6 +4,7 @@
 #include "HalvernShapes.hpp"
 
 #include <QGlyphRun>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRawFont>
@@ -53,7 +54,8 @@ QPainterPath pathOf(const Shape& shape, double em, double stretch) {
 
 class OperationPainter {
 public:
-    explicit OperationPainter(QPainter& painter) : painter_(painter) {}
+    explicit OperationPainter(QPainter& painter)
+        : painter_(painter), pixels_(painter.paintEngine()->type() == QPaintEngine::Raster) {}
 
     void operator()(const Glyphs& run) {
         const QColor colour = colourOf(run.colour);
@@ -104,8 +106,8 @@ public:
     void finishPath() {
         if (path_.isEmpty()) return;
         const QRectF line = QRectF(path_.first(), path_.last()).normalized();
-        if (path_.size() == 2 && (line.width() == 0 || line.height() == 0)) {
-            // The same as a rectangle, which a grid of hundreds of lines is painted from four times as fast.
+        if (pixels_ && path_.size() == 2 && (line.width() == 0 || line.height() == 0)) {
+            // The same pixels, and a grid of hundreds of lines is there four times as fast.
             const double reach = pen_.widthF() / 2;
             painter_.fillRect(line.adjusted(-reach, -reach, reach, reach), pen_.color());
         } else {
@@ -121,6 +123,7 @@ public:
 
 private:
     QPainter& painter_;
+    bool pixels_;
     QPolygonF path_;
     QPen pen_;
 };

@@ -91,8 +91,8 @@ TEST(GraphEquationTest, WhatIsNoSolvedEquationIsNotRead) {
 
 TEST(GraphEquationTest, IsSaidAsItWouldBeTyped) {
     const auto said = [](std::string_view words) { return equationWords(equationOf(words)); };
-    EXPECT_EQ(said("+ 1/1 y ^ + 1 = - 2/3 x + 2/1"), "y = -2/3x + 2");
-    EXPECT_EQ(said("+ 3/1 y = - 1/1 x - 4/5"), "3y = -x - 4/5");
+    EXPECT_EQ(said("+ 1/1 y ^ + 1 = - 2/3 x + 2/1"), "y = -2x/3 + 2");
+    EXPECT_EQ(said("+ 3/1 y = - 1/7 x - 4/5"), "3y = -x/7 - 4/5");
     EXPECT_EQ(said("+ 1/1 x ^ + 1 = + 0/1"), "x = 0");
     EXPECT_EQ(said("y ^ 2 = 4 x ^ - 1 + x ^ 1/2 - x ^ 3"), "y^2 = 4x^(-1) + x^(1/2) - x^3");
     EXPECT_EQ(said("y = 2 ( x - 1 ) ^ 2 - | x |"), "y = 2(x - 1)^2 - |x|");
