@@ -1,85 +1,19 @@
 // ordwise, the desktop program.
 #include "EndingSignals.hpp"
-#include "ExportCommand.hpp"
 #include "FrameWindow.hpp"
 #include "FreshProgram.hpp"
+#include "HeadlessCommands.hpp"
 #include "SettingsFile.hpp"
 #include "StartStop.hpp"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QSessionManager>
-#include <QTextStream>
 
-#include <algorithm>
 #include <cstdlib>
-#include <iterator>
-#include <string_view>
+#include <optional>
 
 namespace {
-
-// Pictures and words about the program need a painter and fonts, but no display.
-bool needsNoDisplay(int argc, char** argv) {
-    constexpr std::string_view words[] = {"--export", "--help", "--help-all", "-h", "--version", "-v"};
-    return std::any_of(argv + 1, argv + argc, [&](std::string_view argument) {
-        const std::string_view name = argument.substr(0, argument.find('='));
-        return std::find(std::begin(words), std::end(words), name) != std::end(words);
-    });
-}
-
-// "2=3.5" -> 2, "3.5"; false without a number before the "=".
-bool readPair(const QString& text, int& number, QString& value) {
-    const qsizetype equals = text.indexOf(QLatin1Char('='));
-    bool valid = false;
-    number = text.left(equals).toInt(&valid);
-    value = text.mid(equals + 1);
-    return equals > 0 && valid;
-}
-
-bool readRequest(const QCommandLineParser& parser, ordwise::ExportRequest& request, QString& reason) {
-    const QStringList words = parser.positionalArguments();
-    if (words.isEmpty() || words.size() > 2) {
-        reason = QStringLiteral("--export takes a problem type and a problem.");
-        return false;
-    }
-    request.file = parser.value(QStringLiteral("export"));
-    request.topic = words[0];
-    request.problem = words.value(1);
-    request.answers = parser.values(QStringLiteral("answer"));
-    int number = 0;
-    QString value;
-    for (const QString& text : parser.values(QStringLiteral("box"))) {
-        if (!readPair(text, number, value)) {
-            reason = QStringLiteral("--box takes N=TEXT.");
-            return false;
-        }
-        request.boxes.emplace_back(number, value);
-    }
-    for (const QString& text : parser.values(QStringLiteral("combo"))) {
-        bool valid = readPair(text, number, value);
-        const int index = value.toInt(&valid);
-        if (!valid) {
-            reason = QStringLiteral("--combo takes N=INDEX.");
-            return false;
-        }
-        request.combos.emplace_back(number, index);
-    }
-    return true;
-}
-
-// 0 done, 1 the problem was refused, 2 the command line could not be read.
-int exportFromCommandLine(const QCommandLineParser& parser) {
-    QTextStream complaint(stderr);
-    ordwise::ExportRequest request;
-    QString reason;
-    if (!readRequest(parser, request, reason)) {
-        complaint << reason << Qt::endl;
-        return 2;
-    }
-    if (ordwise::runExport(request, reason)) return 0;
-    complaint << reason << Qt::endl;
-    return 1;
-}
 
 // Ends the program when its session ends, as closing the frame does. A routine that waits for an
 // answer would go on to the next question without one, so then nothing is gone back to.
@@ -110,7 +44,11 @@ int runDesk(const QStringList& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (needsNoDisplay(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (ordwise::needsNoDisplay(argc, argv)) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // What is said on standard error is ours, not a remark about a desktop that is not needed.
+        if (!qEnvironmentVariableIsSet("QT_LOGGING_RULES")) qputenv("QT_LOGGING_RULES", "default.warning=false");
+    }
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Ordwise"));
     QApplication::setOrganizationName(QStringLiteral("Halvern"));
@@ -118,21 +56,8 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("ordwise"));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Desktop tutor and solver for school mathematics."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addOptions(
-        {{QStringLiteral("export"), QStringLiteral("Draw the solved sheets into FILE (.png, .svg, .pdf)."),
-          QStringLiteral("FILE")},
-         {QStringLiteral("box"), QStringLiteral("Fill box N of a box topic."), QStringLiteral("N=TEXT")},
-         {QStringLiteral("combo"), QStringLiteral("Select entry INDEX of list N."), QStringLiteral("N=INDEX")},
-         {QStringLiteral("answer"), QStringLiteral("Answer the next question of the solve."), QStringLiteral("TEXT")}});
-    parser.addPositionalArgument(QStringLiteral("topic"),
-                                 QStringLiteral("A saved problem to open; with --export, a problem type."));
-    parser.addPositionalArgument(QStringLiteral("problem"),
-                                 QStringLiteral("The problem as it is typed, with --export."));
+    ordwise::addOptions(parser);
     parser.process(application);
-    if (parser.isSet(QStringLiteral("export"))) return exportFromCommandLine(parser);
-
+    if (const std::optional<int> status = ordwise::runHeadless(parser)) return *status;
     return runDesk(parser.positionalArguments());
 }

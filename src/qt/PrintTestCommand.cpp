@@ -1,0 +1,123 @@
+#include "PrintTestCommand.hpp"
+
+#include "Art.hpp"
+#include "FreshProgram.hpp"
+#include "PlainPlatform.hpp"
+#include "PracticeTest.hpp"
+#include "PrintPreview.hpp"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+
+namespace ordwise {
+namespace {
+
+// What keeps a line of the input from being a practice test, as the end of a sentence.
+class NotATest {
+public:
+    explicit NotATest(QString why) : why_(std::move(why)) {}
+    [[nodiscard]] const QString& why() const { return why_; }
+
+private:
+    QString why_;
+};
+
+std::vector<std::string> textsOf(const QJsonObject& object, const QString& name) {
+    std::vector<std::string> texts;
+    const QJsonValue value = object.value(name);
+    bool valid = value.isArray();
+    for (const QJsonValue& text : value.toArray()) {
+        valid = valid && text.isString();
+        texts.push_back(text.toString().toStdString());
+    }
+    if (!valid) throw NotATest(QStringLiteral("\"%1\" is no list of texts").arg(name));
+    return texts;
+}
+
+std::array<std::string, 3> headingOf(const QJsonObject& test) {
+    const std::vector<std::string> lines = textsOf(test, QStringLiteral("heading"));
+    std::array<std::string, 3> heading;
+    if (lines.size() > heading.size()) throw NotATest(QStringLiteral("\"heading\" has more than three lines"));
+    std::copy(lines.begin(), lines.end(), heading.begin());
+    return heading;
+}
+
+MadeTest versionOf(const QJsonValue& value) {
+    if (!value.isObject()) throw NotATest(QStringLiteral("\"versions\" is no list of objects"));
+    const QJsonObject version = value.toObject();
+    const QJsonValue seed = version.value(QStringLiteral("seed"));
+    const QJsonValue name = version.value(QStringLiteral("version"));
+    if (seed.toInteger(-1) < 0) throw NotATest(QStringLiteral("\"seed\" is no whole number"));
+    if (!name.isString()) throw NotATest(QStringLiteral("\"version\" is no text"));
+    return {static_cast<std::uint64_t>(seed.toInteger()), name.toString().toStdString(),
+            textsOf(version, QStringLiteral("lines")), textsOf(version, QStringLiteral("key"))};
+}
+
+std::vector<TestSheet> sheetsOfJson(const QByteArray& line) {
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(line, &error);
+    if (error.error != QJsonParseError::NoError) throw NotATest(error.errorString());
+    if (!document.isObject()) throw NotATest(QStringLiteral("it is no object"));
+    const QJsonObject test = document.object();
+    TestPlan plan;
+    plan.heading = headingOf(test);
+    const std::vector<std::string> lines = textsOf(test, QStringLiteral("lines"));
+    const QJsonValue versions = test.value(QStringLiteral("versions"));
+    if (versions.isUndefined()) return {{plan.heading, lines, ""}};
+    if (!versions.isArray()) throw NotATest(QStringLiteral("\"versions\" is no list of objects"));
+    std::vector<MadeTest> tests;
+    for (const QJsonValue& version : versions.toArray()) tests.push_back(versionOf(version));
+    return sheetsOf(plan, tests);
+}
+
+CommandEnd readTests(const QByteArray& json, std::vector<TestSheet>& sheets) {
+    int number = 0;
+    for (const QByteArray& line : json.split('\n')) {
+        ++number;
+        if (line.trimmed().isEmpty()) continue;
+        try {
+            for (TestSheet& sheet : sheetsOfJson(line)) sheets.push_back(std::move(sheet));
+        } catch (const NotATest& trouble) {
+            return {CommandEnd::Unreadable,
+                    QStringLiteral("Line %1 of the input is no practice test: %2.").arg(number).arg(trouble.why())};
+        }
+    }
+    if (!sheets.empty()) return {};
+    return {CommandEnd::Unreadable, QStringLiteral("There is no practice test in the input.")};
+}
+
+// The first line with marks that do not belong together; "" if all can be drawn.
+std::string lineNotDrawn(const std::vector<TestSheet>& sheets, const PlainDialogs& dialogs) {
+    PageSurface trial(PaperSize{});
+    for (const TestSheet& sheet : sheets) {
+        for (const std::string& line : sheet.Lines) {
+            PrintLine(line, trial, false);
+            if (!dialogs.messages.empty()) return line;
+        }
+    }
+    return "";
+}
+
+}  // namespace
+
+CommandEnd printTests(const QByteArray& json, const QString& file, const PaperSize& paper) {
+    startFreshProgram();
+    PlainPlatform outside;
+    outside.printer.size = paper;
+    std::vector<TestSheet> sheets;
+    const CommandEnd read = readTests(json, sheets);
+    if (read.status != CommandEnd::Done) return read;
+    const std::string notDrawn = lineNotDrawn(sheets, outside.dialogs);
+    if (!notDrawn.empty()) {
+        constexpr int shown = 60;
+        return {CommandEnd::Refused,
+                QStringLiteral("This line of the test cannot be drawn: %1").arg(qstringOf(notDrawn).left(shown))};
+    }
+    if (!printSheets(sheets)) return {CommandEnd::Refused, qstringOf(frmMain.StatusText)};
+    return writePages(file, outside.printer.jobs);
+}
+
+}  // namespace ordwise
