@@ -6,11 +6,13 @@
 #include "KeyText.hpp"
 #include "Stage.hpp"
 #include "WindowRoutines.hpp"
+#include "Workspace.hpp"
 
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -21,6 +23,25 @@ namespace {
 // for it.
 constexpr double side = 16;
 constexpr double head = 34;
+
+// The head of the assistant as a medal. All figures have theirs at the same place of the picture.
+void paintHead(QPainter& painter, const QRectF& place) {
+    constexpr double middleX = 55;
+    constexpr double middleY = 56;
+    constexpr double across = 80;
+    QPainterPath medal;
+    medal.addEllipse(place);
+    painter.fillPath(medal, QColor(0xff, 0xff, 0xff));
+    painter.save();
+    painter.setClipPath(medal);
+    const double scale = place.width() / across;
+    const QPointF corner = place.center() - QPointF(middleX, middleY) * scale;
+    paintArt(painter, ws.AssistantKey,
+             QRectF(corner, QSizeF(PaperWindow::fullWizardWidth, PaperWindow::fullWizardHeight) * scale));
+    painter.restore();
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(place);
+}
 
 }  // namespace
 
@@ -65,8 +86,8 @@ void ExplanationPopup::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(QColor(0x8a, 0x6d, 0x2f), 1.5));
     painter.setBrush(QColor(0xff, 0xfb, 0xe4));
     painter.drawRoundedRect(frame, 10, 10);
-    paintArt(painter, "wizhead", QRectF(10, 6, 24, 24));
-    paintText(painter, frmExplain.Caption, 40, 8, Face::Explanation, 11, Colour{0x6b, 0x4e, 0x12});
+    paintHead(painter, QRectF(12, 5, 25, 25));
+    paintText(painter, frmExplain.Caption, 44, 8, Face::Explanation, 11, Colour{0x6b, 0x4e, 0x12});
     painter.setPen(QPen(QColor(0xe0, 0xcf, 0x9c), 1));
     painter.drawLine(QPointF(side, head), QPointF(frame.right() - side, head));
     painter.translate(side, head + 4);
