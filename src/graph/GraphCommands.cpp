@@ -6,6 +6,7 @@
 #include "NumberText.hpp"
 #include "Platform.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace ordwise {
@@ -103,7 +104,7 @@ void frmGraph_MouseMove(double x, double y) {
     const double perPixel = (frmGraph.xMax - frmGraph.xMin) / frmGraph.Width;
     const int decimals = perPixel < 1 ? 2 : 0;
     const auto within = [](double place, double size, double from, double to) {
-        return from + (place - 1) / (size - 2) * (to - from);
+        return from + std::clamp((place - 1) / (size - 2), 0.0, 1.0) * (to - from);
     };
     const double atX = within(x, frmGraph.Width, frmGraph.xMin, frmGraph.xMax);
     const double atY = within(y, frmGraph.Height, frmGraph.yMax, frmGraph.yMin);

@@ -72,6 +72,7 @@ void DeskWindows::runModal(const Row& row) {
 void DeskWindows::showBeside(const Row& row) {
     QPointer<QWidget>& widget = open_[std::string(row.name)];
     if (widget.isNull()) widget = row.make(&frame_, stage_);
+    widget->setWindowState(widget->windowState() & ~Qt::WindowMinimized);
     widget->show();
     widget->raise();
     widget->activateWindow();

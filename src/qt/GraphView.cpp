@@ -23,6 +23,7 @@
 #include <QScrollBar>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QStyleOption>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -83,6 +84,10 @@ void GraphCanvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), colourOf(background_));
     replay(shown_, painter);
+    if (!hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange)) return;
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
 GraphView::GraphView(QWidget* frame, Stage& stage)
@@ -156,9 +161,9 @@ void GraphView::addMenus() {
     colors->addSeparator();
     add(*colors, frmGraph.mnuGraphDefault, mnuGraphDefault_Click);
     QMenu* size = menuBar()->addMenu(QStringLiteral("&Size"));
-    add(*size, frmGraph.mnuGraphSmall, mnuGraphSmall_Click);
-    add(*size, frmGraph.mnuGraphNormal, mnuGraphNormal_Click);
-    add(*size, frmGraph.mnuGraphMax, [this] { fillScreen(); });
+    add(*size, frmGraph.mnuGraphSmall, [this] { takeSize(mnuGraphSmall_Click); });
+    add(*size, frmGraph.mnuGraphNormal, [this] { takeSize(mnuGraphNormal_Click); });
+    add(*size, frmGraph.mnuGraphMax, [this] { takeSize(mnuGraphMax_Click); });
 }
 
 void GraphView::addFileMenu() {
@@ -238,13 +243,13 @@ void GraphView::print() {
 }
 
 // The picture that fills the screen has what the window's own parts leave of it.
-void GraphView::fillScreen() {
-    if (isMaximized()) showNormal();
+void GraphView::takeSize(void (*routine)()) {
+    if (isMaximized() || isFullScreen()) showNormal();
     const QSize around = frameGeometry().size() - canvas_->size();
     const QSize room = screen()->availableGeometry().size() - around;
     frmGraph.ScreenWidth = room.width();
     frmGraph.ScreenHeight = room.height();
-    mnuGraphMax_Click();
+    routine();
 }
 
 PictureSource GraphView::picture() const {

@@ -88,7 +88,7 @@ private:
     void run(const std::function<void()>& routine);
     void tell(const QString& sentence, bool complaint);
     void print();
-    void fillScreen();
+    void takeSize(void (*routine)());
     void copyPicture();
     void copyCoordinates();
     void savePicture();

@@ -171,6 +171,9 @@ TEST_F(Graph, takes_its_size_from_the_menus_and_from_the_hand) {
     view.actionOf(frmGraph.mnuGraphMax).trigger();
     EXPECT_EQ(view.frameGeometry().size(), view.screen()->availableGeometry().size());
     EXPECT_TRUE(view.screen()->availableGeometry().contains(view.frameGeometry()));
+    view.showMaximized();
+    view.actionOf(frmGraph.mnuGraphSmall).trigger();
+    EXPECT_EQ(view.canvas().size(), QSize(267, 267));
 }
 
 TEST_F(Graph, changes_its_drawing_by_the_menus) {

@@ -6,6 +6,7 @@
 #include "Catalogue.hpp"
 #include "ChooserDialog.hpp"
 #include "DeskView.hpp"
+#include "GraphView.hpp"
 #include "PictureButton.hpp"
 #include "SheetView.hpp"
 #include "Workspace.hpp"
@@ -46,6 +47,20 @@ protected:
         }
     }
 
+    // The graph of whatever was solved last, perhaps of nothing, while the desk goes on.
+    void graphEvent() {
+        if (!frmGraph.Loaded) platform.windows->show("frmGraph");
+        auto* graph = dynamic_cast<GraphView*>(frame->windows().open("frmGraph"));
+        ASSERT_NE(graph, nullptr);
+        const std::vector<const Control*> commands{&frmGraph.mnuGraphZoomIn,       &frmGraph.mnuGraphZoomOut,
+                                                   &frmGraph.mnuGraphQuadrant,     &frmGraph.mnuGraphHighQuality,
+                                                   &frmGraph.mnuToggleCoordinates, &frmGraph.mnuToggleZoomButtons,
+                                                   &frmGraph.mnuGraphSmall,        &frmGraph.mnuGraphMax,
+                                                   &frmGraph.mnuGraphExit,         &frmGraph.mnuGraphColor};
+        for (int i = 0; i < 5 && frmGraph.Loaded; ++i)
+            graph->actionOf(*commands[static_cast<std::size_t>(draw(static_cast<int>(commands.size())))]).trigger();
+    }
+
     void event() {
         static const QString keys = QStringLiteral("0123456789012345678901234xyz+-*/^~=()|.,:%");
         DeskView& desk = frame->desk();
@@ -68,6 +83,7 @@ protected:
             case 15: press(Qt::Key_Backspace); break;
             case 16: QTest::mouseClick(&desk.sheet(draw(10)), Qt::LeftButton); break;
             case 17: desk.sheet(0).figure()->box(1 + draw(6)).setFocus(); break;
+            case 18: graphEvent(); break;
             default: type(keys.mid(draw(static_cast<int>(keys.size())), 1)); break;
         }
     }
