@@ -1,6 +1,7 @@
 #include "Windows.hpp"
 
 #include "GraphWindow.hpp"
+#include "HelpWindow.hpp"
 #include "Platform.hpp"
 #include "PracticeWindow.hpp"
 #include "PrintWindows.hpp"
@@ -43,6 +44,7 @@ MainWindow::MainWindow() {
     mnuFile.Text = "&File";                  mnuNew.Text = "&New Problem";
     mnuPrint.Text = "&Print";                mnuPrintSetup.Text = "P&rint Setup";
     mnuSave.Text = "Save Problem";           mnuLoad.Text = "Load Problem";
+    mnuRecent.Text = "&Open Recent";
     mnuExit.Text = "&Exit";
     mnuCreate.Text = "&Tools";               mnuSolve.Text = "&Solve!";
     mnuExample.Text = "E&xample Problem";    mnuErase.Text = "Erase &Problem";
@@ -88,6 +90,7 @@ void ResetWindows() {
     frmOptions = OptionsWindow{};
     frmPracticeTest = PracticeTestWindow{};
     frmAbout = AboutWindow{};
+    frmHelp = HelpWindow{};
 }
 
 }  // namespace ordwise

@@ -123,7 +123,14 @@ struct MainWindow {
     };
     BoundedArray<ToolbarButton, 20> Toolbar1;
 
-    Control mnuFile, mnuNew, mnuPrint, mnuPrintSetup, mnuSave, mnuLoad, mnuExit;
+    // Saved problems that were opened or saved lately, by their paths, the latest first.
+    std::vector<std::string> RecentProblems;
+    // The saved problem that was put on the desk or saved from it last: its path and its text.
+    std::string ProblemFile;
+    std::string ProblemFileText;
+    bool CommandLineOpened = false;  // its file was opened; from now on Load Problem asks for one
+
+    Control mnuFile, mnuNew, mnuPrint, mnuPrintSetup, mnuSave, mnuLoad, mnuRecent, mnuExit;
     Control mnuCreate, mnuSolve, mnuExample, mnuErase, mnuGraph, mnuPracticeTest, mnuExp;
     Control mnuSpecial, mnuSquareRoot, mnuExponet, mnuAbsValue, mnuAddition, mnuSubtraction, mnuMultiplication,
         mnuDivision, mnuConvertDF;

@@ -1,13 +1,16 @@
 #include "DeskWindows.hpp"
 
+#include "AboutDialog.hpp"
 #include "ChooserDialog.hpp"
 #include "DeskView.hpp"
 #include "FrameWindow.hpp"
 #include "GraphView.hpp"
+#include "HelpDialog.hpp"
 #include "OptionsDialog.hpp"
 #include "PracticeTestDialog.hpp"
 #include "PrintPreviewDialog.hpp"
 #include "PrintSetupDialog.hpp"
+#include "SplashCard.hpp"
 #include "Stage.hpp"
 #include "WindowRoutines.hpp"
 
@@ -42,6 +45,9 @@ const DeskWindows::Row DeskWindows::rows[] = {
     {"frmPrintPreview", true, makeDialog<PrintPreviewDialog>},
     {"frmPracticeTest", true, makeDialog<PracticeTestDialog>},
     {"frmGraph", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new GraphView(frame, stage); }},
+    {"frmAbout", true, makeDialog<AboutDialog>},
+    {"frmHelp", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new HelpDialog(frame, stage); }},
+    {"frmLogo", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new SplashCard(frame, stage); }},
 };
 
 void DeskWindows::show(std::string_view name) {

@@ -27,6 +27,7 @@ FrameWindow::FrameWindow()
     platform.windows = &windows_;
     platform.clock = &clock_;
     platform.browser = &browser_;
+    platform.systemReport = &systemReport_;
     platform.colours = &colours_;
     platform.files = &files_;
     platform.printer = &printer_;

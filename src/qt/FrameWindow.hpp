@@ -5,6 +5,7 @@
 #include "DiskFiles.hpp"
 #include "QtPlatform.hpp"
 #include "QtPrinter.hpp"
+#include "QtSystemReport.hpp"
 #include "Stage.hpp"
 #include "Windows.hpp"
 
@@ -57,6 +58,7 @@ private:
     QtDialogs dialogs_;
     QtClock clock_;
     QtBrowser browser_;
+    QtSystemReport systemReport_;
     QtColours colours_;
     QtFileDialogs fileDialogs_;
     DiskFiles files_;

@@ -4,6 +4,7 @@
 #include "Examples.hpp"
 #include "GuidedInput.hpp"
 #include "Platform.hpp"
+#include "RecentProblems.hpp"
 #include "SolveDriver.hpp"
 #include "WebPages.hpp"
 #include "Windows.hpp"
@@ -20,6 +21,7 @@ void toggle(Control& menu) {
 }  // namespace
 
 void mnuNew_Click() {
+    keepLastProblem();
     platform.windows->show("frmSelect");
     if (!ws.ChooserClosed) {
         platform.windows->unload("frmPaper");
@@ -37,6 +39,7 @@ void mnuExample_Click() {
 }
 
 void mnuErase_Click() {
+    keepLastProblem();
     clear_Click();
 }
 

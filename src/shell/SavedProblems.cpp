@@ -5,6 +5,7 @@
 #include "Fault.hpp"
 #include "NumberText.hpp"
 #include "Platform.hpp"
+#include "RecentProblems.hpp"
 #include "TextTools.hpp"
 #include "Windows.hpp"
 #include "WorksheetBoxes.hpp"
@@ -85,7 +86,7 @@ void sayNoProblem(const std::string& path) {
 }
 
 // What loading would do, with the desk as it was if the file is none of ours.
-bool loadText(const std::string& text) {
+bool loadText(std::string_view text) {
     const std::optional<SavedProblem> problem = problemOfText(text);
     if (!problem || refusedKeyOf(*problem)) return false;
     openProblem(*problem);
@@ -155,6 +156,19 @@ std::vector<RefusedKey> openProblem(const SavedProblem& problem) {
     return refused;
 }
 
+void openProblemText(const std::string& path, std::string_view text) {
+    keepLastProblem();
+    try {
+        if (loadText(text)) {
+            rememberProblemFile(path, text);
+            return;
+        }
+    } catch (const RunTimeFault&) {
+        // A problem that faults is no problem that could have been saved.
+    }
+    sayNoProblem(path);
+}
+
 std::string proposedFileName(std::string_view topic, std::string_view date) {
     const std::string name = std::string(topic) + " " + std::string(date) + "." + extension;
     return replaced(replaced(name, "/", "-"), "*", "x");
@@ -167,10 +181,12 @@ void SaveDialog(std::string_view text, std::string_view name) {
     const std::string trouble = platform.files->write(*path, text);
     const std::string shortName = std::filesystem::path(*path).filename().string();
     frmMain.StatusText = trouble.empty() ? "Saved as \"" + shortName + "\"." : trouble;
+    if (trouble.empty()) rememberProblemFile(*path, text);
 }
 
 std::string LoadDialog(std::string& path) {
-    path = replaced(ws.OpenedFilePath, "\"", "");
+    path = frmMain.CommandLineOpened ? "" : replaced(ws.OpenedFilePath, "\"", "");
+    frmMain.CommandLineOpened = true;
     if (path.empty()) {
         path = platform.fileDialogs->fileToOpen({"Load Problem", filter, extension, platform.folders.savedProblems, ""})
                    .value_or("");
@@ -185,12 +201,7 @@ void mnuSave_Click() {
 void mnuLoad_Click() {
     std::string path;
     const std::string text = LoadDialog(path);
-    if (path.empty()) return;
-    try {
-        if (!loadText(text)) sayNoProblem(path);
-    } catch (const RunTimeFault&) {
-        sayNoProblem(path);
-    }
+    if (!path.empty()) openProblemText(path, text);
 }
 
 }  // namespace ordwise

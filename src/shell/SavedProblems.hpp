@@ -44,6 +44,10 @@ struct SavedProblem {
 // Puts the problem on a fresh worksheet and solves it. Returns the keys refused, one at most.
 std::vector<RefusedKey> openProblem(const SavedProblem& problem);
 
+// The same with the text of a file, which then is the one of the problem on the desk. Leaves everything
+// as it was, and names the file in the status bar, when it holds no problem.
+void openProblemText(const std::string& path, std::string_view text);
+
 // The name under which a problem is offered to be saved.
 // e.g. ("Area of a Square/Rectangle", "03-14-02") -> "Area of a Square-Rectangle 03-14-02.hvx"
 [[nodiscard]] std::string proposedFileName(std::string_view topic, std::string_view date);
@@ -51,12 +55,11 @@ std::vector<RefusedKey> openProblem(const SavedProblem& problem);
 // Asks for a name and writes the text there. Cancelling does nothing; a file that cannot be written
 // is told in the status bar.
 void SaveDialog(std::string_view text, std::string_view name);
-// The whole text of OpenedFilePath, or of the file asked for where that is empty; "" for a file that
-// cannot be read or a cancelled dialog. `path` becomes the file's, "" for a cancelled dialog.
+// The whole text of OpenedFilePath the first time, then and where that is empty of the file asked for;
+// "" for a file that cannot be read or a cancelled dialog. `path` becomes the file's, "" for a cancelled dialog.
 [[nodiscard]] std::string LoadDialog(std::string& path);
 
-// The commands. Load leaves everything as it was, and names the file in the status bar, when it holds
-// no problem.
+// The commands. The file of the command line is opened without a question, once.
 void mnuSave_Click();
 void mnuLoad_Click();
 

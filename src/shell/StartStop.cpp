@@ -2,6 +2,7 @@
 
 #include "ChooserLogic.hpp"
 #include "Platform.hpp"
+#include "RecentProblems.hpp"
 #include "SavedProblems.hpp"
 #include "SettingsFile.hpp"
 #include "StartWindows.hpp"
@@ -23,6 +24,7 @@ void loadFrame(std::string_view commandLine) {
     const std::string& directory = platform.folders.savedProblems;
     if (!directory.empty()) platform.files->createDirectory(directory);
     if (!ws.OpenedFilePath.empty()) mnuLoad_Click();
+    if (frmPaper.Loaded) logotime_Timer();  // the splash would lie on the problem
 }
 
 }  // namespace
@@ -36,6 +38,7 @@ void startUp(std::string_view commandLine) {
 void Logo_Load() {
     ws.StepCount = 1;
     readSettings();
+    readRecentProblems();
     frmMain.mnuUsePencil.Checked = frmMain.mnuPencil.Checked;
     BuildTopicTree(true);
     frmLogo.logotime.Enabled = true;
@@ -52,6 +55,7 @@ void Logo_Unload() {
 }
 
 void shutDown() {
+    keepLastProblem();
     platform.windows->unload("frmGraph");
     const std::string trouble = writeSettings();
     if (!trouble.empty()) frmMain.StatusText = trouble;

@@ -1,11 +1,13 @@
 #include "WindowRoutines.hpp"
 
+#include "AboutLogic.hpp"
 #include "ChooserLogic.hpp"
 #include "ChooserWindow.hpp"
 #include "ExplainWindow.hpp"
 #include "ExplanationWindow.hpp"
 #include "GraphCommands.hpp"
 #include "GraphWindow.hpp"
+#include "HelpPages.hpp"
 #include "OptionsLogic.hpp"
 #include "PracticeTestLogic.hpp"
 #include "PrintPreview.hpp"
@@ -26,7 +28,7 @@ struct WindowRow {
     void (*unload)();
 };
 
-constexpr std::array<WindowRow, 9> windowRows{{
+constexpr std::array<WindowRow, 11> windowRows{{
     {"frmPaper", [] { Form_Load(); },
      [] {
          if (frmPaper.Loaded) Form_Unload();
@@ -56,6 +58,8 @@ constexpr std::array<WindowRow, 9> windowRows{{
      }},
     {"frmLogo", [] { Logo_Load(); }, [] { Logo_Unload(); }},
     {"frmOptions", [] { Options_Load(); }, [] { Options_Unload(); }},
+    {"frmAbout", [] { About_Load(); }, [] { About_Unload(); }},
+    {"frmHelp", [] { Help_Load(); }, [] { Help_Unload(); }},
     {"frmPracticeTest", [] { PracticeTest_Load(); }, [] { PracticeTest_Unload(); }},
 }};
 

@@ -1,0 +1,7 @@
+#include "HelpWindow.hpp"
+
+namespace ordwise {
+
+HelpWindow frmHelp;
+
+}  // namespace ordwise

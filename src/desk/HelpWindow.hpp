@@ -1,0 +1,16 @@
+// frmHelp, the guide of the program, as plain data.
+#pragma once
+
+#include <string>
+
+namespace ordwise {
+
+struct HelpWindow {
+    bool Loaded = false;
+    std::string Caption = "Ordwise Help";
+    std::string Place;  // the page in view, e.g. "fractions.html#reciprocals"
+};
+
+extern HelpWindow frmHelp;
+
+}  // namespace ordwise

@@ -1,0 +1,96 @@
+#include "AboutDialog.hpp"
+
+#include "AboutLogic.hpp"
+#include "Art.hpp"
+#include "Stage.hpp"
+#include "StartWindows.hpp"
+
+#include <QClipboard>
+#include <QDialogButtonBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ordwise {
+namespace {
+
+constexpr const char* about =
+    "A tutor and solver for school mathematics: one step a line, and a reason for every step.\n\n"
+    "Ordwise is free software under the MIT licence. You may use, share and change it; it comes without any "
+    "warranty.\n\n"
+    "Made with Qt (LGPL 3). Pictures and letters are drawn for Ordwise.";
+
+}  // namespace
+
+AboutDialog::AboutDialog(QWidget* parent, Stage& stage)
+    : QDialog(parent), stage_(stage), facts_(new QPlainTextEdit(this)) {
+    setObjectName(QStringLiteral("frmAbout"));
+    setWindowTitle(qstringOf(frmAbout.Caption));
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    addHead(*layout);
+    auto* text = new QLabel(QString::fromLatin1(about), this);
+    text->setWordWrap(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    layout->addWidget(text);
+    facts_->setObjectName(QStringLiteral("SystemInformation"));
+    facts_->setAccessibleName(QStringLiteral("System information"));
+    facts_->setReadOnly(true);
+    facts_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    facts_->setTabChangesFocus(true);
+    facts_->setMinimumHeight(facts_->fontMetrics().height() * 13);
+    layout->addWidget(facts_);
+    addButtons(*layout);
+    setMinimumWidth(520);
+    showChanges();
+}
+
+void AboutDialog::addHead(QVBoxLayout& layout) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(16);
+    auto* picture = new QLabel(this);
+    picture->setPixmap(artPixmap("ordwise", QSizeF(72, 72), devicePixelRatioF()));
+    row->addWidget(picture);
+    auto* words = new QVBoxLayout;
+    auto* title = new QLabel(qstringOf(frmAbout.lblTitle.Text), this);
+    QFont large = title->font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    large.setBold(true);
+    title->setFont(large);
+    auto* version = new QLabel(qstringOf(frmAbout.lblVersion.Text), this);
+    version->setObjectName(QStringLiteral("lblVersion"));
+    words->addWidget(title);
+    words->addWidget(version);
+    row->addLayout(words, 1);
+    layout.addLayout(row);
+}
+
+void AboutDialog::addButtons(QVBoxLayout& layout) {
+    auto* buttons = new QDialogButtonBox(this);
+    auto* info = buttons->addButton(qstringOf("&" + frmAbout.cmdSysInfo.Text), QDialogButtonBox::ActionRole);
+    info->setObjectName(QStringLiteral("cmdSysInfo"));
+    copy_ = buttons->addButton(QStringLiteral("&Copy"), QDialogButtonBox::ActionRole);
+    copy_->setObjectName(QStringLiteral("Copy"));
+    copy_->setToolTip(QStringLiteral("Copy the system information"));
+    auto* ok = buttons->addButton(qstringOf(frmAbout.Command1.Text), QDialogButtonBox::AcceptRole);
+    ok->setObjectName(QStringLiteral("Command1"));
+    ok->setDefault(true);
+    ok->setFocus();
+    connect(info, &QPushButton::clicked, this, [this] { stage_.perform(StartSysInfo); });
+    connect(copy_, &QPushButton::clicked, this,
+            [] { QGuiApplication::clipboard()->setText(qstringOf(frmAbout.SystemInformation)); });
+    connect(ok, &QPushButton::clicked, this, [this] { stage_.perform(About_Command1_Click); });
+    layout.addWidget(buttons);
+}
+
+void AboutDialog::showChanges() {
+    const QString facts = qstringOf(frmAbout.SystemInformation);
+    if (facts_->toPlainText() != facts) facts_->setPlainText(facts);
+    facts_->setVisible(!facts.isEmpty());
+    copy_->setVisible(!facts.isEmpty());
+    adjustSize();
+}
+
+}  // namespace ordwise

@@ -1,0 +1,32 @@
+// frmAbout: the program's name and version, its licence, and on request what there is to tell of this
+// machine.
+#pragma once
+
+#include "DeskWindows.hpp"
+
+#include <QDialog>
+
+class QPlainTextEdit;
+class QPushButton;
+class QVBoxLayout;
+
+namespace ordwise {
+
+class Stage;
+
+class AboutDialog : public QDialog, public WindowView {
+public:
+    AboutDialog(QWidget* parent, Stage& stage);
+
+    void showChanges() override;
+
+private:
+    void addHead(QVBoxLayout& layout);
+    void addButtons(QVBoxLayout& layout);
+
+    Stage& stage_;
+    QPlainTextEdit* facts_;
+    QPushButton* copy_ = nullptr;
+};
+
+}  // namespace ordwise
