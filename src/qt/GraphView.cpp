@@ -23,7 +23,6 @@
 #include <QScrollBar>
 #include <QStandardPaths>
 #include <QStatusBar>
-#include <QStyleOption>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -85,9 +84,8 @@ void GraphCanvas::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), colourOf(background_));
     replay(shown_, painter);
     if (!hasFocus() || !window()->testAttribute(Qt::WA_KeyboardFocusChange)) return;
-    QStyleOptionFocusRect focus;
-    focus.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    painter.setPen(QPen(palette().highlight(), 2));  // a style's own focus frame may tint the picture
+    painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
 GraphView::GraphView(QWidget* frame, Stage& stage)
