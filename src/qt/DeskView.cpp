@@ -21,7 +21,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace ordwise {
 
@@ -57,6 +56,16 @@ namespace {
 
 constexpr double smallestScale = 0.4;
 constexpr double largestScale = 4;
+
+struct Tick {
+    TimerControl PaperWindow::*control;
+    void (*routine)();
+};
+constexpr std::array<Tick, 5> ticks{{{&PaperWindow::Timer1, Timer1_Timer},
+                                     {&PaperWindow::Timer2, Timer2_Timer},
+                                     {&PaperWindow::clickMe, clickMe_Timer},
+                                     {&PaperWindow::wizIn, wizIn_Timer},
+                                     {&PaperWindow::WizOut, WizOut_Timer}}};
 
 void follow(QTimer& timer, const TimerControl& control, bool allowed) {
     const bool runs = control.Enabled && allowed;
@@ -96,19 +105,19 @@ DeskView::DeskView(QWidget* parent, Stage& stage)
     light_->setObjectName(QStringLiteral("Light"));
     wizard_->setObjectName(QStringLiteral("Wizard"));
     click_->setObjectName(QStringLiteral("Click"));
+    connectPictures();
+    for (std::size_t i = 0; i < timers_.size(); ++i)
+        QObject::connect(&timers_[i], &QTimer::timeout, this, [this, i] { stage_.tick(ticks[i].routine); });
+}
+
+void DeskView::connectPictures() {
     for (PictureButton* picture : {light_, wizard_, click_}) picture->installEventFilter(this);
-    QObject::connect(light_, &QAbstractButton::clicked, this,
-                     [this] { stage_.perform([] { Light_MouseUp(MouseButton::Left); }); });
-    QObject::connect(wizard_, &QAbstractButton::clicked, this, [this] { stage_.perform(Wizard_Click); });
-    QObject::connect(click_, &QAbstractButton::clicked, this,
-                     [this] { stage_.perform([] { Click_MouseUp(MouseButton::Left); }); });
-    const std::pair<QTimer*, void (*)()> timers[] = {{&blink_, Timer2_Timer},
-                                                     {&signal_, clickMe_Timer},
-                                                     {&growth_, wizIn_Timer},
-                                                     {&shrinking_, WizOut_Timer},
-                                                     {&strokes_, Timer1_Timer}};
-    for (const auto& [timer, routine] : timers)
-        QObject::connect(timer, &QTimer::timeout, this, [this, routine = routine] { stage_.tick(routine); });
+    const auto onClick = [this](PictureButton& picture, void (*routine)()) {
+        QObject::connect(&picture, &QAbstractButton::clicked, this, [this, routine] { stage_.perform(routine); });
+    };
+    onClick(*light_, [] { Light_MouseUp(MouseButton::Left); });
+    onClick(*wizard_, Wizard_Click);
+    onClick(*click_, [] { Click_MouseUp(MouseButton::Left); });
 }
 
 void DeskView::setSteady(bool steady) {
@@ -216,11 +225,11 @@ void DeskView::stackWindows() {
 }
 
 void DeskView::runTimers() {
-    follow(blink_, frmPaper.Timer2, !steady_);
-    follow(signal_, frmPaper.clickMe, !steady_ && frmPaper.Wizard.Visible);
-    follow(growth_, frmPaper.wizIn, true);
-    follow(shrinking_, frmPaper.WizOut, true);
-    follow(strokes_, frmPaper.Timer1, true);
+    for (std::size_t i = 0; i < timers_.size(); ++i) {
+        const TimerControl& control = frmPaper.*ticks[i].control;
+        const bool seen = &control != &frmPaper.clickMe || frmPaper.Wizard.Visible;
+        follow(timers_[i], control, seen && !steady_);
+    }
 }
 
 // Tells a screen reader what changed on the paper.

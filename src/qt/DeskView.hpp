@@ -61,6 +61,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void connectPictures();
     [[nodiscard]] static QSizeF deskSize();
     void fitScale();
     void growToSheets();
@@ -86,11 +87,7 @@ private:
     StillPicture* deskPencil_;
     ExplanationPopup* explanation_;
     std::array<int, PaperWindow::lastSheet + 1> stacked_{};  // sheets from the lowest to the foremost
-    QTimer blink_;
-    QTimer signal_;
-    QTimer growth_;
-    QTimer shrinking_;
-    QTimer strokes_;
+    std::array<QTimer, 5> timers_;
     WritingPause writing_;
     QString announced_;
     bool dragged_ = false;
