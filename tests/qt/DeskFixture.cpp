@@ -40,6 +40,7 @@ void DeskTest::atDialog(const QString& name, const std::function<void(QWidget& d
     QObject::connect(watch, &QTimer::timeout, frame.get(), [this, watch, name, act] {
         QWidget* dialog = QApplication::activeModalWidget();
         if (dialog == nullptr || (!name.isEmpty() && dialog->objectName() != name)) return;
+        if (!dialog->isActiveWindow()) return;  // not yet: it has no keyboard
         watch->stop();
         watch->deleteLater();
         --dialogsAwaited_;
