@@ -21,6 +21,7 @@ MenuTable fileMenu() {
              {},
              {&frmMain.mnuSave, mnuSave_Click, QKeySequence::Save},
              {&frmMain.mnuLoad, mnuLoad_Click, QKeySequence::Open},
+             {&frmMain.mnuRecent, nullptr, {}},
              {},
              {&frmMain.mnuExit, nullptr, QKeySequence::Quit}}};
 }

@@ -12,8 +12,8 @@ namespace ordwise {
 
 using Routine = void (*)();
 
-// A menu entry. Without a control it separates, with rows of its own it opens a menu below; mnuExit
-// has no routine, the frame closes itself.
+// A menu entry. Without a control it separates, with rows of its own it opens a menu below. mnuExit
+// and mnuRecent have no routine: the frame closes itself and fills the list of files.
 struct MenuRow {
     const Control* control = nullptr;
     Routine routine = nullptr;

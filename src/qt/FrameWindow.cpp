@@ -5,20 +5,47 @@
 #include "DeskView.hpp"
 #include "FrameMenus.hpp"
 #include "Motion.hpp"
+#include "RecentMenu.hpp"
+#include "RecentProblems.hpp"
 #include "SheetView.hpp"
 #include "StatusLine.hpp"
 #include "Workspace.hpp"
 
 #include <QAction>
-#include <QEvent>
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
+#include <QUrl>
 
 namespace ordwise {
+namespace {
+
+// e.g. "homework.hvx - Solving Equations - Ordwise"
+QString titleOfDesk() {
+    QStringList parts;
+    const QString file = qstringOf(problemFileOnDesk());
+    if (!file.isEmpty()) parts << QFileInfo(file).fileName();
+    if (frmPaper.Loaded) parts << qstringOf(ws.TopicName);
+    parts << qstringOf(frmMain.Caption);
+    return parts.join(QStringLiteral(" - "));
+}
+
+// The one file that is dragged, "" for anything else.
+QString draggedFile(const QMimeData& data) {
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+}
+
+}  // namespace
 
 FrameWindow::FrameWindow()
     : before_(platform), desk_(nullptr), scroll_(new QScrollArea(this)), status_(new StatusLine(this)) {
@@ -33,6 +60,7 @@ FrameWindow::FrameWindow()
     platform.printer = &printer_;
     platform.fileDialogs = &fileDialogs_;
     platform.folders = userFolders(environmentValue);
+    memory_ = FrameMemory(qstringOf(platform.folders.state));
     dialogs_.parent = this;
     fileDialogs_.parent = this;
     printer_.parent = this;
@@ -45,7 +73,7 @@ FrameWindow::FrameWindow()
     setWindowTitle(qstringOf(frmMain.Caption));
     setWindowIcon(artIcon("ordwise"));
     desk_ = new DeskView(nullptr, stage_);
-    desk_->setSteady(reducedMotionWanted());
+    desk_->setSteady(memory_.steadySignals().value_or(reducedMotionWanted()));
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setFocusPolicy(Qt::NoFocus);
     scroll_->setWidget(desk_);
@@ -54,10 +82,16 @@ FrameWindow::FrameWindow()
     statusBar()->addWidget(status_, 1);
     addMenus();
     addToolbar();
-    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-    resize(QSize(1120, 930).boundedTo(screen * 0.95));
+    setAcceptDrops(true);
+    takePlace();
     showChanges();
     desk_->setFocus();
+}
+
+void FrameWindow::takePlace() {
+    if (memory_.restorePlace(*this)) return;
+    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+    resize(QSize(1120, 930).boundedTo(screen * 0.95));
 }
 
 FrameWindow::~FrameWindow() {
@@ -87,6 +121,10 @@ void FrameWindow::addMenuRow(QMenu& menu, const MenuRow& row) {
         addMenuRows(*menu.addMenu(qstringOf(row.control->Text)), row.below);
         return;
     }
+    if (row.control == &frmMain.mnuRecent) {
+        menu.addMenu(new RecentMenu(&menu, stage_));
+        return;
+    }
     QAction* action = menu.addAction(qstringOf(row.control->Text));
     action->setShortcut(row.keys);
     action->setCheckable(row.checkable);
@@ -111,7 +149,10 @@ void FrameWindow::addViewMenu() {
     steady->setCheckable(true);
     steady->setChecked(desk_->steady());
     steady->setObjectName(QStringLiteral("steadySignals"));
-    connect(steady, &QAction::toggled, this, [this](bool on) { desk_->setSteady(on); });
+    connect(steady, &QAction::toggled, this, [this](bool on) {
+        desk_->setSteady(on);
+        memory_.keepSteadySignals(on);
+    });
 }
 
 void FrameWindow::zoomBy(double factor) {
@@ -152,7 +193,7 @@ QAction* FrameWindow::toolbarAction(int button) const {
 }
 
 void FrameWindow::showChanges() {
-    setWindowTitle(qstringOf(frmPaper.Loaded ? ws.TopicName + " - " + frmMain.Caption : frmMain.Caption));
+    setWindowTitle(titleOfDesk());
     for (const auto& [control, action] : menuActions_) {
         QString tip = action->text();
         tip.remove(QLatin1Char('&'));
@@ -183,6 +224,23 @@ void FrameWindow::followLine() {
     const double scale = desk_->scale();
     scroll_->ensureVisible(static_cast<int>((sheet.Left + ws.LineEndX) * scale),
                            static_cast<int>((sheet.Top + ws.LineEndY) * scale), 160, 120);
+}
+
+void FrameWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!draggedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+// The file manager that the file comes from waits until the drop has been answered, so the problem is
+// solved after that.
+void FrameWindow::dropEvent(QDropEvent* event) {
+    const std::string path = QFile::encodeName(draggedFile(*event->mimeData())).toStdString();
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, path] { stage_.perform([&path] { openProblemFile(path); }); });
+}
+
+void FrameWindow::closeEvent(QCloseEvent* event) {
+    memory_.keepPlace(*this);
+    QMainWindow::closeEvent(event);
 }
 
 bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -3,6 +3,7 @@
 
 #include "DeskWindows.hpp"
 #include "DiskFiles.hpp"
+#include "FrameMemory.hpp"
 #include "QtPlatform.hpp"
 #include "QtPrinter.hpp"
 #include "QtSystemReport.hpp"
@@ -43,9 +44,14 @@ public:
     void showFreshSheets();
 
 protected:
+    // A problem file that is dropped on the frame is opened.
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void takePlace();
     void addMenus();
     void addMenuRows(QMenu& menu, const std::vector<MenuRow>& rows);
     void addMenuRow(QMenu& menu, const MenuRow& row);
@@ -65,6 +71,7 @@ private:
     QtPrinter printer_;
     DeskWindows windows_{*this, stage_};
     Platform before_;
+    FrameMemory memory_{QString()};
     DeskView* desk_;
     QScrollArea* scroll_;
     StatusLine* status_;

@@ -49,13 +49,14 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
 
 // Worked examples stand on paper, which stays light on a dark desktop; all else follows the palette.
 void HelpBrowser::applyStyle() {
-    const QString style = QStringLiteral(
-                              "h1 { color: %1; } h2 { color: %1; margin-top: 20px; } a { color: %2; }"
-                              "li { margin-bottom: 3px; } code { font-family: monospace; }"
-                              "table.steps { background-color: #fffdf3; margin-top: 6px; margin-bottom: 10px; }"
-                              "p.line { margin-left: 14px; margin-top: 8px; margin-bottom: 2px; color: #000000; }"
-                              "p.note { margin-left: 44px; margin-top: 1px; margin-bottom: 4px; color: #1c3f94; }")
-                              .arg(colourName(palette(), QPalette::Text), colourName(palette(), QPalette::Link));
+    const QString style =
+        QStringLiteral(
+            "h1 { color: %1; } h2 { color: %1; margin-top: 20px; } a { color: %2; }"
+            "table { margin-top: 6px; margin-bottom: 6px; } li { margin-bottom: 3px; } code { font-family: monospace; }"
+            "table.steps { background-color: #fffdf3; margin-top: 6px; margin-bottom: 10px; }"
+            "p.line { margin-left: 14px; margin-top: 12px; margin-bottom: 3px; color: #000000; }"
+            "p.note { margin-left: 44px; margin-top: 1px; margin-bottom: 4px; color: #1c3f94; }")
+            .arg(colourName(palette(), QPalette::Text), colourName(palette(), QPalette::Link));
     document()->setDefaultStyleSheet(style);
 }
 

@@ -11,6 +11,9 @@
 namespace ordwise {
 namespace {
 
+constexpr const char* listName = "recent-problems";
+constexpr const char* lastProblemName = "last-problem.hvx";
+
 // The file of the folder of what is remembered; "" where there is no such folder.
 std::string stateFile(const char* name) {
     return platform.folders.state.empty() ? "" : platform.folders.state + "/" + name;
@@ -26,7 +29,7 @@ void writeState(const std::string& file, std::string_view text) {
 void writeRecentProblems() {
     std::string text;
     for (const std::string& path : frmMain.RecentProblems) text += path + "\n";
-    writeState(stateFile("recent-problems"), text);
+    writeState(stateFile(listName), text);
 }
 
 void forget(const std::string& path) {
@@ -43,7 +46,7 @@ bool holdsNothing(const SavedProblem& problem) {
 
 void readRecentProblems() {
     frmMain.RecentProblems.clear();
-    const std::string file = stateFile("recent-problems");
+    const std::string file = stateFile(listName);
     if (file.empty()) return;
     for (const std::string& path : split(platform.files->read(file).value_or(""), '\n')) {
         const bool listed = std::find(frmMain.RecentProblems.begin(), frmMain.RecentProblems.end(), path) !=
@@ -54,9 +57,10 @@ void readRecentProblems() {
 }
 
 void rememberProblemFile(const std::string& path, std::string_view text) {
-    frmMain.ProblemFile = path;
+    const bool kept = path == stateFile(lastProblemName);
+    frmMain.ProblemFile = kept ? "" : path;
     frmMain.ProblemFileText = text;
-    if (path == stateFile("Last Problem.hvx") || path.find('\n') != std::string::npos) return;
+    if (kept || path.find('\n') != std::string::npos) return;
     std::error_code trouble;
     const std::string whole = std::filesystem::absolute(path, trouble).string();
     std::erase(frmMain.RecentProblems, whole);
@@ -89,11 +93,11 @@ void mnuClearRecent_Click() {
 void keepLastProblem() {
     if (!frmPaper.Loaded || !problemFileOnDesk().empty()) return;
     const SavedProblem problem = problemOnDesk();
-    if (!holdsNothing(problem)) writeState(stateFile("Last Problem.hvx"), textOfProblem(problem));
+    if (!holdsNothing(problem)) writeState(stateFile(lastProblemName), textOfProblem(problem));
 }
 
 std::string lastProblemFile() {
-    const std::string file = stateFile("Last Problem.hvx");
+    const std::string file = stateFile(lastProblemName);
     return file.empty() || platform.files->read(file).value_or("").empty() ? "" : file;
 }
 

@@ -93,7 +93,7 @@ std::string asHtml(std::string text) {
 
 // The lines as they are drawn, each with its reason below it.
 std::string stepsOf(const std::string& command) {
-    std::string html = "<table class=\"steps\" width=\"100%\"><tr><td>\n";
+    std::string html = "<table class=\"steps\" width=\"100%\" cellpadding=\"6\"><tr><td>\n";
     const nlohmann::json answer = answerOf(command);
     EXPECT_GE(answer["steps"].size(), 2U) << command;
     for (const auto& step : answer["steps"]) {

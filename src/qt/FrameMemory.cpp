@@ -1,0 +1,37 @@
+#include "FrameMemory.hpp"
+
+#include <QMainWindow>
+#include <QSettings>
+
+namespace ordwise {
+namespace {
+
+const QString placeKey = QStringLiteral("Frame/place");
+const QString steadyKey = QStringLiteral("Frame/steadySignals");
+
+}  // namespace
+
+FrameMemory::FrameMemory(const QString& folder) {
+    if (!folder.isEmpty()) file_ = folder + QStringLiteral("/frame.ini");
+}
+
+bool FrameMemory::restorePlace(QMainWindow& frame) const {
+    if (file_.isEmpty()) return false;
+    return frame.restoreGeometry(QSettings(file_, QSettings::IniFormat).value(placeKey).toByteArray());
+}
+
+void FrameMemory::keepPlace(const QMainWindow& frame) const {
+    if (!file_.isEmpty()) QSettings(file_, QSettings::IniFormat).setValue(placeKey, frame.saveGeometry());
+}
+
+std::optional<bool> FrameMemory::steadySignals() const {
+    if (file_.isEmpty()) return std::nullopt;
+    const QVariant kept = QSettings(file_, QSettings::IniFormat).value(steadyKey);
+    return kept.isValid() ? std::optional<bool>(kept.toBool()) : std::nullopt;
+}
+
+void FrameMemory::keepSteadySignals(bool steady) const {
+    if (!file_.isEmpty()) QSettings(file_, QSettings::IniFormat).setValue(steadyKey, steady);
+}
+
+}  // namespace ordwise

@@ -1,0 +1,31 @@
+// What the frame remembers by itself from one start to the next: its place on the screen and whether
+// its signals stand still. It lies beside the recent problems; where there is no place for it, the
+// frame starts as a new one.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QMainWindow;
+
+namespace ordwise {
+
+class FrameMemory {
+public:
+    // `folder` is the platform's for what is remembered, "" for none.
+    explicit FrameMemory(const QString& folder);
+
+    // False if there is nothing to restore; a frame that would lie off the screens is brought back.
+    bool restorePlace(QMainWindow& frame) const;
+    void keepPlace(const QMainWindow& frame) const;
+
+    // What the user chose, if he ever did.
+    [[nodiscard]] std::optional<bool> steadySignals() const;
+    void keepSteadySignals(bool steady) const;
+
+private:
+    QString file_;
+};
+
+}  // namespace ordwise
