@@ -27,8 +27,8 @@ constexpr double head = 34;
 // The head of the assistant as a medal. All figures have theirs at the same place of the picture.
 void paintHead(QPainter& painter, const QRectF& place) {
     constexpr double middleX = 55;
-    constexpr double middleY = 56;
-    constexpr double across = 80;
+    constexpr double middleY = 58;
+    constexpr double across = 66;
     QPainterPath medal;
     medal.addEllipse(place);
     painter.fillPath(medal, QColor(0xff, 0xff, 0xff));

@@ -121,9 +121,11 @@ TEST_F(Desk, erase_asks_first) {
 
 TEST_F(Desk, draws_what_is_typed) {
     choose(QStringLiteral("simplifying p"));
+    setSteady(false);  // the pencil is seen at the line
     type(QStringLiteral("9(3x^2+8^2)-3/4+4x"));
     EXPECT_FALSE(frame->statusLine().isRefusal()) << ws.ExplainOverrideText;
     shoot("typed-polynomial");
+    setSteady(true);
     choose(QStringLiteral("calculating ro"));
     type(QStringLiteral("3~4+2~9"));
     EXPECT_FALSE(frame->statusLine().isRefusal()) << ws.ExplainOverrideText;
