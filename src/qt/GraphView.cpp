@@ -212,7 +212,8 @@ void GraphView::placeBeside(const QWidget& frame) {
     resize(sizeHint().boundedTo(room.size()));
     const QRect desk = frame.frameGeometry();
     const int left = std::min(desk.right() + 1, room.right() + 1 - width());
-    move(std::max(left, room.left()), std::clamp(desk.top(), room.top(), room.bottom() + 1 - height()));
+    const int top = std::min(desk.top(), room.bottom() + 1 - height());
+    move(std::max(left, room.left()), std::max(top, room.top()));
 }
 
 QAction& GraphView::actionOf(const Control& menu) const {
