@@ -33,6 +33,15 @@ installed() {
         nlohmann-json3-dev) present /usr/include/nlohmann/json.hpp /usr/local/include/nlohmann/json.hpp ;;
         qt6-base-dev) present /usr/lib*/cmake/Qt6Widgets /usr/lib/*/cmake/Qt6Widgets ;;
         qt6-svg-dev) present /usr/lib*/cmake/Qt6Svg /usr/lib/*/cmake/Qt6Svg ;;
+        desktop-file-utils) have desktop-file-validate ;;
+        appstream) have appstreamcli ;;
+        shared-mime-info) have update-mime-database ;;
+        lintian) have lintian ;;
+        xvfb) have Xvfb ;;
+        xdotool) have xdotool ;;
+        file) have file ;;
+        man-db) have man ;;
+        dpkg-dev) have dpkg-shlibdeps ;;
         fonts-texgyre) present /usr/share/texmf/fonts/opentype/public/tex-gyre/texgyreschola-regular.otf ;;
         *) return 1 ;;
     esac
@@ -41,6 +50,8 @@ installed() {
 # shellcheck disable=SC2034  # read by the scripts that source this one
 readonly build_packages=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev)
 readonly desk_packages=(qt6-base-dev qt6-svg-dev fonts-texgyre)
+# shellcheck disable=SC2034
+readonly check_packages=(clang clang-format desktop-file-utils appstream shared-mime-info lintian xvfb xdotool file man-db dpkg-dev)
 
 # Prints those of the named packages that are not there.
 missing() {
@@ -115,7 +126,7 @@ want_desk_packages() {
 up_to_date() {
     local before
     [ -e "$1" ] && IFS= read -r before <"$1" && [ "$before" = "$2" ] &&
-        [ -z "$(find CMakeLists.txt CMakePresets.json cmake src tests data -newer "$1" -print -quit 2>/dev/null)" ]
+        [ -z "$(find CMakeLists.txt CMakePresets.json cmake src tests data packaging fuzz -newer "$1" -print -quit 2>/dev/null)" ]
 }
 
 # build PRESET NAME TARGET...: builds unless that is up to date. The stamp of NAME is dated from the

@@ -12,6 +12,7 @@
 #include "GuidedInput.hpp"
 #include "KeyDesk.hpp"
 #include "PlainPlatform.hpp"
+#include "Sanitized.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
 
@@ -24,7 +25,7 @@
 namespace ordwise::test {
 namespace {
 
-constexpr int sequencesPerTopic = 40;
+constexpr int sequencesPerTopic = rounds(40);
 constexpr int keysPerSequence = 60;
 
 // All that typing changes and that something reads later.

@@ -1,6 +1,7 @@
 // What is true of any right solution, held against thousands of random problems of the engine.
 #include "EngineChecks.hpp"
 #include "EngineProblems.hpp"
+#include "Sanitized.hpp"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +22,7 @@ class EngineInvariant : public testing::TestWithParam<Run> {};
 TEST_P(EngineInvariant, EveryLineFollowsAndTheLastIsSimplest) {
     Survey book;
     Draws draws(seedOfRun());
-    for (int i = 0; i < GetParam().count; ++i) {
+    for (int i = 0; i < rounds(GetParam().count); ++i) {
         const Problem problem = GetParam().generate(draws);
         const Solution solution = solve(problem);
         book.add(problem, solution, engineComplaints(problem, solution));
@@ -52,7 +53,7 @@ INSTANTIATE_TEST_SUITE_P(Topics, EngineInvariant,
 TEST(DecimalsMode, StaysWithinItsRounding) {
     Survey book;
     Draws draws(seedOfRun());
-    for (int i = 0; i < 1500; ++i) {
+    for (int i = 0; i < rounds(1500); ++i) {
         Problem problem = arithmeticProblem(draws);
         if (problem.typed.find('*') != std::string::npos) continue;
         const int places = draws.between(2, 4);
@@ -87,7 +88,7 @@ TEST(RandomKeys, LetNothingStandThatIsSolvedWrongly) {
     Survey book;
     for (const auto& [topic, keys] : topics) {
         Draws draws(seedOfRun());
-        for (int i = 0; i < 400; ++i) {
+        for (int i = 0; i < rounds(400); ++i) {
             const Problem problem = mashedProblem(draws, topic, keys);
             const Solution solution = solve(problem);
             if (isMathematics(solution)) book.add(problem, solution, sumComplaints(problem, solution, anyForm));

@@ -1,5 +1,6 @@
 // Every scripted topic against plain arithmetic, and the examples that the program makes up itself.
 #include "EngineChecks.hpp"
+#include "Sanitized.hpp"
 #include "TopicProblems.hpp"
 
 #include <gtest/gtest.h>
@@ -13,7 +14,7 @@ TEST(TopicInvariant, EveryScriptedTopicGivesTheAnswerOfPlainArithmetic) {
     Survey book;
     for (const auto& generate : topicGenerators()) {
         Draws draws(seedOfRun());
-        for (int i = 0; i < 120; ++i) {
+        for (int i = 0; i < rounds(120); ++i) {
             const DrawnProblem drawn = generate(draws);
             const Solution solution = solve(drawn.problem);
             Complaints found = scriptedComplaints(drawn.problem, solution, drawn.wanted.message);
@@ -41,7 +42,7 @@ TEST(TopicInvariant, TheLargestNumbersAreAnsweredAtOnce) {
 
 // The problems that the Example command makes up: two hundred of every topic in both difficulties.
 TEST(ExampleInvariant, EveryExampleIsTypedAndSolvedRightLineByLine) {
-    constexpr int examplesEach = 200;
+    constexpr int examplesEach = rounds(200);
     Survey book;
     for (const auto& topic : allTopics()) {
         for (int i = 0; i < 2 * examplesEach; ++i) {
