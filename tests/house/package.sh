@@ -44,7 +44,7 @@ manual_of() {
         options_of "$program"
         for command in "${@:2}"; do options_of "$program" "$command"; done
     } | sort -u)
-    written=$(zcat "$page" | grep -vE '^\.B ordwise|^\.(BR?|BI) .*\[' | sed 's/\\//g' | grep -oE -- '--[a-z]+(-[a-z]+)*' | sort -u)
+    written=$(zcat "$page" | sed '/^\.SH SYNOPSIS/,/^\.SH DESCR/d; /^\.SH EXAMPLES/,$d' | sed 's/\\//g' | grep -oE -- '--[a-z]+(-[a-z]+)*' | sort -u)
     [ "$helped" = "$written" ] && return
     fault "The options of ${program##*/} and of its manual page differ (< help, > page):"
     diff <(echo "$helped") <(echo "$written")

@@ -174,6 +174,12 @@ protected:
         return windows.empty() ? nullptr : windows[static_cast<std::size_t>(draw(static_cast<int>(windows.size())))];
     }
 
+    // Where keys go; while a window closes nowhere for a moment, then to the sheet.
+    QWidget& keyboard() const {
+        QWidget* widget = QApplication::focusWidget();
+        return widget != nullptr ? *widget : frame->desk();
+    }
+
     // Mostly what a student does at the sheet; between, anything anywhere.
     void event() {
         static const QString keys = QStringLiteral("0123456789012345678901234xyz+-*/^~=()|.,:%");
@@ -194,9 +200,9 @@ protected:
                 if (QWidget* window = windowBeside(); window != nullptr) window->close();
                 break;
             case 9:
-            case 10: press(Qt::Key_Return); break;
+            case 10: QTest::keyClick(&keyboard(), Qt::Key_Return); break;
             case 11:
-            case 12: press(Qt::Key_Backspace); break;
+            case 12: QTest::keyClick(&keyboard(), Qt::Key_Backspace); break;
             case 13: QTest::mouseClick(&desk.sheet(draw(10)), Qt::LeftButton); break;
             case 14: desk.sheet(0).figure()->box(1 + draw(6)).setFocus(); break;
             case 15: platform.windows->show("frmGraph"); break;  // of whatever was solved last, perhaps nothing
@@ -209,7 +215,7 @@ protected:
                 eventIn(beside != nullptr && draw(2) == 0 ? *beside : *frame);
                 break;
             }
-            default: type(keys.mid(draw(static_cast<int>(keys.size())), 1)); break;
+            default: QTest::keyClicks(&keyboard(), keys.mid(draw(static_cast<int>(keys.size())), 1)); break;
         }
     }
 
