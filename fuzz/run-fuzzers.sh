@@ -20,7 +20,7 @@ for fuzzer in "$@"; do
     mkdir -p "$corpus/$fuzzer" "$corpus/seeds/$fuzzer"
     echo "fuzz_$fuzzer, $seconds seconds"
     # One input may take as long as a slow solve under the sanitizers does, and no longer.
-    if ! "$build/fuzz/fuzz_$fuzzer" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 -dict="$here/keys.dict" \
+    if ! "$build/fuzz/fuzz_$fuzzer" -max_total_time="$seconds" -timeout=20 -detect_leaks=0 -rss_limit_mb=2048 -dict="$here/keys.dict" \
         -artifact_prefix="$corpus/$fuzzer-" -print_final_stats=1 "$corpus/$fuzzer" "$corpus/seeds/$fuzzer" >"$corpus/$fuzzer.log" 2>&1; then
         tail -n 60 "$corpus/$fuzzer.log"
         status=1

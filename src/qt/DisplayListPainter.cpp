@@ -30,12 +30,14 @@ QString familyOf(Face face) {
 
 // The text face at the height of em, without hinting, so that a line looks alike at every scale. A
 // machine without the face gets another serif one: every glyph is placed by itself, nothing moves.
-const QRawFont& rawFont(Face face, double em) {
+QRawFont rawFont(Face face, double em) {
+    constexpr std::size_t kept = 50;  // a window that fits the sheet to its size asks for ever other heights
     static std::map<std::pair<Face, double>, QRawFont> fonts;
     const auto known = fonts.find({face, em});
     if (known != fonts.end()) return known->second;
     QRawFont raw = QRawFont::fromFont(fontOf(face));
     raw.setPixelSize(em);
+    if (fonts.size() == kept) fonts.clear();
     return fonts.emplace(std::pair(face, em), std::move(raw)).first->second;
 }
 
@@ -61,7 +63,7 @@ public:
         const QColor colour = colourOf(run.colour);
         const double em = emOf(run.face, run.size);
         const double base = baselineOf(run);
-        const QRawFont& font = rawFont(run.face, em);
+        const QRawFont font = rawFont(run.face, em);
         QList<quint32> glyphs;
         QList<QPointF> places;
         for (const PlacedGlyph& glyph : placedGlyphs(run)) {
