@@ -43,7 +43,6 @@ void DeskTest::atDialog(const QString& name, const std::function<void(QWidget& d
         if (!dialog->isActiveWindow()) return;  // not yet: it has no keyboard
         watch->stop();
         watch->deleteLater();
-        (void)QTest::qWaitForWindowActive(dialog, 1000);  // the keyboard comes after the window
         --dialogsAwaited_;
         const QPointer<QWidget> opened = dialog;
         act(*dialog);
