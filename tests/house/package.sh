@@ -100,7 +100,7 @@ double_click() {
     DISPLAY=:$display QT_QPA_PLATFORM=xcb bash -c "exec ${command/\%f/\"\$HOME/My problems/a.hvx\"}" >"$work/desk" 2>&1 &
     desk=$!
     for ((i = 0; i < 100; ++i)); do
-        DISPLAY=:$display xdotool search --name '^Solving Equations - Ordwise' >"$work/said" 2>&1 && break
+        DISPLAY=:$display xdotool search --name '^a.hvx - Solving Equations - Ordwise' >"$work/said" 2>&1 && break
         sleep 0.1
     done
     [ $i -lt 100 ] || fault "Ten seconds after a double click no window shows the problem. $(cat "$work/desk")"
