@@ -18,6 +18,25 @@ constexpr std::array<int, 95> halvernWidths{
     574, 556, 444, 463, 389, 611, 537, 778, 537, 537, 481, 606, 606, 333, 450,
 };
 
+constexpr std::array<int, 95> headingWidths{
+    278, 296, 389, 556, 556, 833, 815, 204, 333, 333, 500, 606, 278, 333, 278, 278,
+    556, 556, 556, 556, 556, 556, 556, 556, 556, 556, 278, 278, 606, 606, 606, 444,
+    737, 722, 722, 722, 778, 722, 667, 778, 833, 407, 556, 778, 667, 944, 815, 778,
+    667, 778, 722, 630, 667, 815, 722, 981, 704, 704, 611, 333, 606, 333, 606, 500,
+    333, 556, 556, 444, 574, 500, 333, 537, 611, 315, 296, 593, 315, 889, 611, 500,
+    574, 556, 444, 463, 389, 611, 537, 778, 537, 537, 481, 333, 606, 333, 606,
+};
+
+// The characters 160 to 255 of headings.
+constexpr std::array<int, 96> headingLatinWidths{
+    278, 296, 556, 556, 556, 556, 606, 500, 333, 737, 334, 426, 606, 333, 737, 333,
+    400, 606, 333, 333, 333, 611, 606, 278, 333, 333, 300, 426, 834, 834, 834, 444,
+    722, 722, 722, 722, 722, 722, 1000, 722, 722, 722, 722, 722, 407, 407, 407, 407,
+    778, 815, 778, 778, 778, 778, 778, 606, 778, 815, 815, 815, 815, 704, 667, 574,
+    556, 556, 556, 556, 556, 556, 796, 444, 500, 500, 500, 500, 315, 315, 315, 315,
+    500, 611, 500, 500, 500, 500, 500, 606, 500, 611, 611, 611, 611, 537, 574, 537,
+};
+
 constexpr std::array<int, 95> explanationWidths{
     250, 278, 402, 500, 500, 889, 640, 227, 490, 490, 500, 760, 250, 333, 250, 511,
     500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 250, 250, 769, 760, 769, 444,
@@ -49,6 +68,7 @@ constexpr double ascent = 0.95;
 const std::array<int, 95>& widthsOf(Face face) {
     switch (face) {
         case Face::Halvern: return halvernWidths;
+        case Face::Heading: return headingWidths;
         case Face::Explanation: return explanationWidths;
         case Face::Sans: return sansWidths;
         case Face::Courier: break;
@@ -56,11 +76,19 @@ const std::array<int, 95>& widthsOf(Face face) {
     return courierWidths;
 }
 
+// Of the character that begins with a byte beyond ASCII, in a heading.
+int headingWidth(std::string_view character) {
+    const auto byte = [character](std::size_t at) { return static_cast<unsigned char>(character[at]); };
+    const bool latin = character.size() > 1 && (byte(0) == 0xC2 || byte(0) == 0xC3) && (byte(1) & 0xC0U) == 0x80U;
+    const unsigned code = latin ? (byte(0) & 0x1FU) << 6U | (byte(1) & 0x3FU) : 0;
+    return code >= 160 ? headingLatinWidths[code - 160] : headingWidths['n' - 32];
+}
+
 }  // namespace
 
 double emOf(Face face, double points) {
     // 20 units at 18 points, where sheets are written, and 11 at 8 points, where exponents are.
-    if (face == Face::Halvern) return 0.9 * points + 3.8;
+    if (face == Face::Halvern || face == Face::Heading) return 0.9 * points + 3.8;
     if (face == Face::Explanation) return points + 2;
     return points * 96 / 72;
 }
@@ -77,9 +105,13 @@ double lineHeightOf(Face face, double points) {
 double textWidth(Face face, std::string_view text, double points) {
     const std::array<int, 95>& widths = widthsOf(face);
     int thousandths = 0;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
         if ((byte & 0xC0U) == 0x80U) continue;  // the rest of a character already counted
+        if (face == Face::Heading && byte > 126) {
+            thousandths += headingWidth(text.substr(i));
+            continue;
+        }
         thousandths += widths[(byte < 32 || byte > 126) ? '?' - 32U : byte - 32U];
     }
     return thousandths * emOf(face, points) / 1000.0;

@@ -1,7 +1,7 @@
 // Widths and heights of every glyph, from one place: the terminal, the tests and the desk lay out
 // alike because none of them asks a font.
 //
-// The figures for letters and digits are the advance widths of TeX Gyre Schola (HalvernFont) and
+// The figures for letters and digits are the advance widths of TeX Gyre Schola (HalvernFont and headings) and
 // TeX Gyre Pagella Bold (the explanation face), of TeX Gyre Heros and TeX Gyre Cursor Bold (the faces
 // of the graph), in thousandths of an em, read from the fonts. The mathematical shapes of HalvernFont
 // are our own drawings and so are their widths.
@@ -15,6 +15,7 @@ namespace ordwise {
 
 enum class Face {
     Halvern,      // the schoolbook face of the sheets
+    Heading,      // the same for words that somebody has typed: no character is a sign of mathematics
     Explanation,  // the face of the explanation window and of printed notes
     Sans,         // the face of the graph's numbers
     Courier       // the bold face of the graph's quadrants
@@ -26,7 +27,8 @@ enum class Face {
 // From the top of a line of text to its base line, and from one line to the next.
 [[nodiscard]] double ascentOf(Face face, double points);
 [[nodiscard]] double lineHeightOf(Face face, double points);
-// The advance width of UTF-8 text without kerning; a character outside ASCII counts as a "?".
+// The advance width of UTF-8 text without kerning. A character outside ASCII counts as a "?"; in a
+// heading the letters of western Europe have their own width, and others count as an "n".
 [[nodiscard]] double textWidth(Face face, std::string_view text, double points);
 
 }  // namespace ordwise

@@ -27,7 +27,7 @@ std::vector<ShapePoint> dot(double x, double y, double radius) {
 }
 
 Shape minusShape() {
-    return {box(40, axis - weight / 2, 566, axis + weight / 2)};
+    return {box(96, axis - weight / 2, 510, axis + weight / 2)};
 }
 
 Shape divisionShape() {
@@ -138,7 +138,7 @@ struct OwnShapes {
 }  // namespace
 
 const Shape* shapeOf(Face face, char character) {
-    if (face == Face::Sans || face == Face::Courier) return nullptr;  // no mathematics is written in them
+    if (face != Face::Halvern && face != Face::Explanation) return nullptr;  // no mathematics is written in others
     static const OwnShapes own;
     switch (character) {
         case '`': return &own.pi;
@@ -160,7 +160,7 @@ std::vector<PlacedGlyph> placedGlyphs(const Glyphs& run) {
     for (const std::string& character : characters(run.text)) {
         const double width = textWidth(run.face, character, run.size);
         const Shape* shape = character.size() == 1 ? shapeOf(run.face, character[0]) : nullptr;
-        if (character == "_" && !placed.empty() && placed.back().shape == shape) {
+        if (character == "_" && shape != nullptr && !placed.empty() && placed.back().shape == shape) {
             placed.back().stretch += 1;
         } else if (character != " ") {
             placed.push_back({character, shape, x, 1});

@@ -27,8 +27,9 @@ struct PrintSetupWindow {
 // One text for the printer that begins on a page of its own: a practice test, or the answers to it.
 struct TestSheet {
     std::array<std::string, 3> Heading;
-    std::vector<std::string> Lines;  // MathMarkup; a blank line is left behind each
+    std::vector<std::string> Lines;  // MathMarkup
     std::string Foot;                // small print at the end of every page; may be empty
+    bool Close = false;              // the lines follow one another; else there is room to write between them
 };
 
 struct PrintPreviewWindow {

@@ -33,7 +33,8 @@ std::string escaped(const std::string& text) {
 
 const char* fontOf(Face face) {
     switch (face) {
-        case Face::Halvern: return " font-family=\"'TeX Gyre Schola', 'Century Schoolbook', serif\"";
+        case Face::Halvern:
+        case Face::Heading: return " font-family=\"'TeX Gyre Schola', 'Century Schoolbook', serif\"";
         case Face::Explanation: return " font-family=\"'TeX Gyre Pagella', Palatino, serif\" font-weight=\"bold\"";
         case Face::Sans: return " font-family=\"'TeX Gyre Heros', Helvetica, Arial, sans-serif\"";
         case Face::Courier: break;

@@ -134,7 +134,7 @@ std::vector<TestSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTest
         const std::string foot = "Seed " + textOf(static_cast<std::int64_t>(test.seed));
         const auto heading = headingWith(plan.heading, version);
         sheets.push_back({heading, test.lines, foot});
-        if (!test.key.empty()) sheets.push_back({headingWith(heading, "Answer Key"), test.key, foot});
+        if (!test.key.empty()) sheets.push_back({headingWith(heading, "Answer Key"), test.key, foot, true});
     }
     return sheets;
 }

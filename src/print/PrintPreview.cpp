@@ -45,18 +45,42 @@ void layOutPreview() {
     showPages(surface.finished());
 }
 
+// A section begins with a blank line, which its heading and its first problem follow.
+bool beginsSection(const std::vector<std::string>& lines, std::size_t at) {
+    return lines[at].empty() && at + 2 < lines.size() && (at == 0 || !lines[at - 1].empty());
+}
+
+// A heading at the foot of a page would be one of nothing.
+bool hasRoomForSection(const PageSurface& page) {
+    constexpr double lastBase = 560;
+    constexpr double gap = 12;  // above each line
+    const double spacedLine = 2 * (gap + page.TextHeight());
+    return page.CurrentY + 2 * spacedLine + gap <= lastBase;
+}
+
+void layOutSheet(PageSurface& page, const TestSheet& sheet) {
+    printHeading(page, sheet.Heading);
+    for (std::size_t i = 0; i < sheet.Lines.size(); ++i) {
+        if (sheet.Close) {
+            PrintCloseLine(sheet.Lines[i], page);
+            continue;
+        }
+        if (beginsSection(sheet.Lines, i) && !hasRoomForSection(page)) {
+            beginPage(page);  // without the blank line above the section
+            continue;
+        }
+        PrintLine(sheet.Lines[i], page, false);
+        PrintLine("", page, false);
+    }
+}
+
 }  // namespace
 
 void layOutSheets(PageSurface& page, const std::vector<TestSheet>& sheets) {
     for (const TestSheet& sheet : sheets) {
         if (&sheet != &sheets.front()) page.NewPage();
         page.Foot = sheet.Foot;
-        for (int i = 0; i < 3; ++i) page.printLine("");
-        for (const std::string& line : sheet.Heading) page.printLine(line);
-        for (const std::string& line : sheet.Lines) {
-            PrintLine(line, page, false);
-            PrintLine("", page, false);
-        }
+        layOutSheet(page, sheet);
     }
 }
 

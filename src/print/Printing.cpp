@@ -5,7 +5,6 @@
 #include "Platform.hpp"
 #include "PrintWindows.hpp"
 #include "PrintingPages.hpp"
-#include "TextTools.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 
@@ -34,9 +33,8 @@ Heading heading() {
     return {frmPrintSetup.Text1.Text, frmPrintSetup.Text2.Text, frmPrintSetup.Text3.Text};
 }
 
-void printHeading(PageSurface& page) {
-    for (int i = 0; i < 3; ++i) page.printLine("");
-    for (const std::string& line : heading()) page.printLine(line + "   ");
+void printOwnHeading(PageSurface& page) {
+    printHeading(page, heading());
     page.printLine("");
 }
 
@@ -55,35 +53,22 @@ void printExplanation(PageSurface& page, const std::string& note) {
     page.FontFace = Face::Halvern;
 }
 
-// Lines follow one another closely on paper; what stands above a line needs room of its own.
-void printStep(PageSurface& page, const std::string& line) {
-    constexpr double fractionRoom = 4;
-    constexpr double radicalRoom = 6;  // of a sign that reaches over a fraction
-    if (contains(line, "#")) page.CurrentY += fractionRoom;
-    if (contains(line, "~#")) page.CurrentY += radicalRoom;
-    PrintLine(line, page, false);
-}
-
 // An explanation at the top of a page would explain nothing: its step goes with it.
 void printExplainedStep(PageSurface& page, const std::string& line, const std::string& note) {
     constexpr double lastTop = 515;  // below it, the step finds room and its explanation none
-    constexpr double firstTop = 12;
-    if (page.CurrentY > lastTop && !line.empty()) {
-        page.NewPage();
-        page.CurrentY = firstTop;
-    }
+    if (page.CurrentY > lastTop && !line.empty()) beginPage(page);
     PrintLine(line, page, false);
     printExplanation(page, note);
 }
 
 // Slot 0 holds no step: its note is the hint how to type a problem.
 void layOutSolution(PageSurface& page, bool withExplanations) {
-    printHeading(page);
+    printOwnHeading(page);
     for (int i = 1; i <= lastPrintedStep(); ++i) {
         if (withExplanations) {
             printExplainedStep(page, ws.StepLines[i], ws.StepNotes[i]);
         } else {
-            printStep(page, ws.StepLines[i]);
+            PrintCloseLine(ws.StepLines[i], page);
         }
     }
 }
@@ -98,9 +83,11 @@ void printProblem(PageSurface& page) {
 
 // The window's picture drawn anew at the size of the page, so that it is as sharp as the paper.
 void layOutGraph(PageSurface& page, const PaperSize& paper) {
-    printHeading(page);
+    constexpr double belowProblem = 6;  // a denominator reaches down
+    printOwnHeading(page);
     printProblem(page);
     page.printLine("");
+    page.CurrentY += belowProblem;
     const double width = paper.width - 2 * paper.margin;
     const double height = paper.height - 2 * paper.margin;
     const double top = page.CurrentY / pageUnitsDown * height;

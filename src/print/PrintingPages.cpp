@@ -1,6 +1,7 @@
 #include "PrintingPages.hpp"
 
 #include "Fault.hpp"
+#include "TextTools.hpp"
 #include "Windows.hpp"
 #include "basFPrint.hpp"
 
@@ -58,6 +59,27 @@ void PrintLine(std::string_view line, DrawingSurface& surface, bool inBlue) {
         renderer.newLine();
         platform.dialogs->messageBox("An error occurred while displaying information.", "Ordwise", MessageButtons::Ok);
     }
+}
+
+void PrintCloseLine(std::string_view line, PageSurface& page) {
+    constexpr double fractionRoom = 4;
+    constexpr double radicalRoom = 6;  // of a sign that reaches over a fraction
+    if (contains(line, "#")) page.CurrentY += fractionRoom;
+    if (contains(line, "~#")) page.CurrentY += radicalRoom;
+    PrintLine(line, page, false);
+}
+
+void printHeading(PageSurface& page, const std::array<std::string, 3>& heading) {
+    for (int i = 0; i < 3; ++i) page.printLine("");
+    const Face face = std::exchange(page.FontFace, Face::Heading);
+    for (const std::string& line : heading) page.printLine(line);
+    page.FontFace = face;
+}
+
+void beginPage(PageSurface& page) {
+    constexpr double firstTop = 12;
+    page.NewPage();
+    page.CurrentY = firstTop;
 }
 
 bool printPages(const std::string& title, const std::function<void(PageSurface&)>& layOut) {

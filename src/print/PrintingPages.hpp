@@ -7,6 +7,7 @@
 #include "DrawingSurface.hpp"
 #include "Platform.hpp"
 
+#include <array>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -40,6 +41,16 @@ private:
 // full. A line that cannot be drawn ends in a message box, and the next line goes on below it.
 // `surface` may be any surface of a page; its NewPage is called.
 void PrintLine(std::string_view line, DrawingSurface& surface, bool inBlue);
+
+// The same with room above the line for what stands higher than a letter, for lines that follow one
+// another closely.
+void PrintCloseLine(std::string_view line, PageSurface& page);
+
+// Three blank lines and the heading below them. What somebody types there is no mathematics.
+void printHeading(PageSurface& page, const std::array<std::string, 3>& heading);
+
+// A fresh page with the pen where the first line of a page begins.
+void beginPage(PageSurface& page);
 
 // Lays out pages by `layOut` and sends them to the printer as one job. A fault on the way abandons
 // the job. Where nothing was printed, the answer is false and the status line says why.

@@ -20,7 +20,8 @@ QColor colourOf(Colour colour) {
 
 QString familyOf(Face face) {
     switch (face) {
-        case Face::Halvern: return QStringLiteral("TeX Gyre Schola");
+        case Face::Halvern:
+        case Face::Heading: return QStringLiteral("TeX Gyre Schola");
         case Face::Explanation: return QStringLiteral("TeX Gyre Pagella");
         case Face::Sans: return QStringLiteral("TeX Gyre Heros");
         case Face::Courier: break;

@@ -16,8 +16,6 @@
 #include <QPushButton>
 #include <QStandardPaths>
 
-#include <utility>
-
 namespace ordwise {
 namespace {
 
@@ -26,6 +24,11 @@ constexpr double unitsOfInch = 96;
 // e.g. "Area of a Square/Rectangle" -> "Area of a Square-Rectangle.pdf"
 std::string fileNameOf(const std::string& title) {
     return replaced(replaced(title, "/", "-"), "*", "x") + ".pdf";
+}
+
+// In the user's folder for documents.
+QString documentNamed(const std::string& name) {
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(qstringOf(name));
 }
 
 bool paintJob(QPrinter& device, const PrintJob& job) {
@@ -75,14 +78,11 @@ std::string QtPrinter::print(const PrintJob& job) {
 }
 
 std::string QtPrinter::printToFile(const PrintJob& job) {
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    std::optional<std::string> path;
-    if (chosenFile_.isEmpty()) {
-        path = platform.fileDialogs->fileToSave(
-            {"Print to PDF", "PDF files (.pdf)|*.pdf", "pdf", documents.toStdString(), fileNameOf(job.title)});
-    } else {
-        path = QFile::encodeName(std::exchange(chosenFile_, QString())).toStdString();
-    }
+    const QFileInfo proposed(chosenFile_.isEmpty() ? documentNamed(fileNameOf(job.title)) : chosenFile_);
+    chosenFile_.clear();
+    const std::optional<std::string> path =
+        platform.fileDialogs->fileToSave({"Print to PDF", "PDF files (.pdf)|*.pdf", "pdf",
+                                          proposed.path().toStdString(), proposed.fileName().toStdString()});
     if (!path) return "Nothing was printed.";
     const QByteArray bytes = pagesAsPdf({job});
     std::string trouble = platform.files->write(*path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
@@ -98,17 +98,18 @@ std::string QtPrinter::printToDevice(const PrintJob& job) {
 }
 
 void QtPrinter::setup() {
+    if (printsToFile()) device().setOutputFileName(documentNamed("Ordwise.pdf"));
     QPrintDialog dialog(&device(), windowInUse(parent));
+    dialog.setObjectName(QStringLiteral("PrintDialog"));
     dialog.setWindowTitle(QStringLiteral("Print Setup"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    // What is chosen here holds for the next job; nothing is printed yet.
+    // What is chosen here holds for the jobs to come; nothing is printed yet.
     if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
         if (QPushButton* accept = buttons->button(QDialogButtonBox::Ok)) accept->setText(QStringLiteral("&OK"));
     }
     if (dialog.exec() != QDialog::Accepted) return;
     device().setFullPage(true);
-    const bool named = device().outputFormat() == QPrinter::PdfFormat;
-    chosenFile_ = named ? device().outputFileName() : QString();
+    chosenFile_ = printsToFile() ? device().outputFileName() : QString();
 }
 
 }  // namespace ordwise

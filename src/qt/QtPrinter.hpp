@@ -1,5 +1,5 @@
 // The printer of the desktop: the one chosen in the platform's dialog, and where there is none a PDF
-// under a name that the user is asked for.
+// under a name that the user is asked for with every job.
 #pragma once
 
 #include "Platform.hpp"
@@ -39,7 +39,7 @@ private:
     Devices devices_;
     // Looking for printers takes time on some networks: not before one is needed.
     mutable std::unique_ptr<QPrinter> device_;
-    QString chosenFile_;  // named in the dialog, for the next job
+    QString chosenFile_;  // named in the dialog, to be proposed for the next job
 };
 
 }  // namespace ordwise

@@ -29,6 +29,10 @@ TEST(TextWidth, KeepsDigitsInColumnsAndSignsAlike) {
 TEST(TextWidth, CountsACharacterOutsideAsciiOnce) {
     EXPECT_EQ(textWidth(Face::Halvern, "\xC3\xA9", 18), textWidth(Face::Halvern, "?", 18));
     EXPECT_EQ(textWidth(Face::Halvern, "\x7F\x01", 18), 2 * textWidth(Face::Halvern, "?", 18));
+    // In a heading an umlaut is as wide as its vowel; half a character and a foreign one do no harm.
+    EXPECT_EQ(textWidth(Face::Heading, "\xC3\xBC", 18), textWidth(Face::Heading, "u", 18));
+    for (const char* other : {"\xC3", "\xC2\x80", "\xD0\x96", "\xFF"})
+        EXPECT_EQ(textWidth(Face::Heading, other, 18), textWidth(Face::Heading, "n", 18));
 }
 
 TEST(DrawingSurface, JoinsGlyphsOfOneStyleIntoARunAndNoOthers) {
@@ -68,6 +72,12 @@ TEST(PlacedGlyphs, StandWhereTheWidthsSayAndBlanksAreLeftOut) {
     EXPECT_DOUBLE_EQ(glyphs[1].x, 100 + textWidth(Face::Halvern, "2", 18));
     EXPECT_EQ(glyphs[2].character, "r");
     EXPECT_DOUBLE_EQ(glyphs[2].x, 100 + textWidth(Face::Halvern, "2` ", 18));
+}
+
+TEST(PlacedGlyphs, LeaveAHeadingAsItWasTyped) {
+    const auto glyphs = placedGlyphs({"A & B: __ `{~", 0, 0, Face::Heading, 12, black});
+    EXPECT_EQ(glyphs.size(), 9U) << "all but the blanks";
+    for (const PlacedGlyph& glyph : glyphs) EXPECT_EQ(glyph.shape, nullptr) << glyph.character;
 }
 
 TEST(PlacedGlyphs, MakeOnePieceOfABar) {

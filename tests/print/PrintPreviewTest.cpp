@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -73,6 +74,27 @@ TEST_F(PrintPreviewTest, ATestOfOneProblemIsOnePage) {
     frmPrintPreview_Command5_Click();
     frmPrintPreview_Command4_Click();
     EXPECT_EQ(ws.PreviewPage, 0);
+}
+
+TEST_F(PrintPreviewTest, ASectionKeepsItsFirstProblemAndAKeyIsClose) {
+    TestSheet sheet = sheetOf(0);
+    for (int i = 0; i < 40; ++i) {
+        sheet.Lines.emplace_back("p");
+        if (i % 5 == 4) sheet.Lines.insert(sheet.Lines.end(), {"", "Section", "p"});
+    }
+    preview({sheet});
+    const int spaced = ws.PreviewPageCount;
+    int sections = 0;
+    for (int i = 0; i <= spaced; ++i) {
+        const std::vector<Glyphs> runs = runsOf(frmPrintPreview.Picture1[i].Picture.drawn());
+        EXPECT_NE(runs.back().text, "Section") << "page " << i;
+        sections += static_cast<int>(
+            std::count_if(runs.begin(), runs.end(), [](const Glyphs& run) { return run.text == "Section"; }));
+    }
+    EXPECT_EQ(sections, 8);
+    sheet.Close = true;
+    preview({sheet});
+    EXPECT_LT(ws.PreviewPageCount, spaced);
 }
 
 TEST_F(PrintPreviewTest, TurnsItsPagesAndStopsAtBothEnds) {

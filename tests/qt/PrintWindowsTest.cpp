@@ -181,6 +181,11 @@ TEST_F(PrintWindows, a_solution_goes_to_a_pdf_and_a_fault_leaves_everything_as_i
         EXPECT_FALSE(in<QCheckBox>(setup, "Check3").isEnabled());
         in<QCheckBox>(setup, "Check2").click();
         in<QCheckBox>(setup, "Check3").click();
+        atDialog(QStringLiteral("PrintDialog"), [](QWidget& dialog) {
+            shootWidget(dialog, "printer");
+            dialog.close();
+        });
+        clickIn(setup, "Command3");
         QTest::keyClicks(&in<QLineEdit>(setup, "Text1"), QStringLiteral("!"));
         shootWidget(setup, "print-setup");
         clickOn(ok);
