@@ -50,6 +50,11 @@ QPixmap artPixmap(std::string_view key, QSizeF size, double devicePixelRatio) {
     return pixmap;
 }
 
+QSizeF artSize(std::string_view key) {
+    const QSvgRenderer* renderer = rendererOf(key);
+    return renderer == nullptr ? QSizeF() : renderer->viewBoxF().size();
+}
+
 QIcon artIcon(std::string_view key) {
     QIcon icon;
     for (const int side : {16, 24, 32, 48, 64}) icon.addPixmap(artPixmap(key, QSizeF(side, side), 1));

@@ -16,6 +16,8 @@ namespace ordwise {
 void paintArt(QPainter& painter, std::string_view key, const QRectF& place);
 // The picture as pixels, kept for the next time. `size` is in device-independent pixels.
 [[nodiscard]] QPixmap artPixmap(std::string_view key, QSizeF size, double devicePixelRatio);
+// The size at which the picture was drawn; empty for an unknown key.
+[[nodiscard]] QSizeF artSize(std::string_view key);
 // The picture for a button or a menu, in the sizes that they use.
 [[nodiscard]] QIcon artIcon(std::string_view key);
 

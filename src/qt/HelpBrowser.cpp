@@ -76,12 +76,20 @@ QString HelpBrowser::pageText(const QString& file) {
     return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
 }
 
+double HelpBrowser::letterScale() const {
+    return QFontInfo(font()).pointSizeF() / usualPoints;
+}
+
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {
     if (type == QTextDocument::HtmlResource) return pageText(name.fileName());
     if (name.scheme() == QStringLiteral("line")) return pictureOfLine(name.path(QUrl::FullyDecoded).toStdString());
-    if (name.scheme() == QStringLiteral("art"))
-        return artPixmap(name.path().toStdString(), QSizeF(128, 128), 1).toImage();
+    if (name.scheme() == QStringLiteral("art")) return pictureOfArt(name.path().toStdString(), name.query().toInt());
     return QImage(QStringLiteral(":/help/") + name.fileName());
+}
+
+QImage HelpBrowser::pictureOfArt(std::string_view key, int height) const {
+    const QSizeF size = artSize(key) * (height * letterScale() / std::max(artSize(key).height(), 1.0));
+    return artPixmap(key, size, devicePixelRatioF()).toImage();
 }
 
 QImage HelpBrowser::pictureOfLine(std::string_view markup) const {
@@ -91,7 +99,7 @@ QImage HelpBrowser::pictureOfLine(std::string_view markup) const {
     renderer.line(markup);
     QRectF extent;
     for (const DrawOperation& operation : surface.drawn()) extent |= extentOf(operation);
-    const double pixels = lineScale * QFontInfo(font()).pointSizeF() / usualPoints * devicePixelRatioF();
+    const double pixels = lineScale * letterScale() * devicePixelRatioF();
     QImage image((extent.size() * pixels).toSize() + QSize(1, 1), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -1,7 +1,8 @@
 // A page of the guide. Besides HTML and its pictures it shows the program's own art and lines of
 // mathematics, drawn as they are drawn on the sheet:
 //
-//   <img src="art:light3">   <img src="line:%231%2F2%23">   (markup, percent-encoded)
+//   <img src="art:light3?36">          its height
+//   <img src="line:%231%2F2%23">       markup, percent-encoded
 #pragma once
 
 #include <QTextBrowser>
@@ -28,6 +29,9 @@ protected:
 
 private:
     void applyStyle();
+    // How much larger the letters are than those for which the pages are laid out.
+    [[nodiscard]] double letterScale() const;
+    [[nodiscard]] QImage pictureOfArt(std::string_view key, int height) const;
     [[nodiscard]] QImage pictureOfLine(std::string_view markup) const;
 
     double zoom_ = 1;
