@@ -96,13 +96,6 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
     setObjectName(QStringLiteral("frmPracticeTest"));
     setWindowTitle(QStringLiteral("Practice Test"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* buttons = new QDialogButtonBox(this);
-    QPushButton* create = buttons->addButton(QStringLiteral("Create &Practice Test"), QDialogButtonBox::AcceptRole);
-    create->setObjectName(QStringLiteral("Command2"));
-    create->setDefault(true);
-    QPushButton* cancel = buttons->addButton(qstringOf(frmPracticeTest.Command1.Text), QDialogButtonBox::RejectRole);
-    cancel->setObjectName(QStringLiteral("Command1"));
-
     auto* right = new QVBoxLayout;
     right->addWidget(outline(), 1);
     auto* lower = new QHBoxLayout;
@@ -113,6 +106,12 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
     auto* columns = new QHBoxLayout;
     columns->addWidget(topics(), 2);
     columns->addLayout(right, 3);
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* create = buttons->addButton(QStringLiteral("Create &Practice Test"), QDialogButtonBox::AcceptRole);
+    create->setObjectName(QStringLiteral("Command2"));
+    create->setDefault(true);
+    QPushButton* cancel = buttons->addButton(qstringOf(frmPracticeTest.Command1.Text), QDialogButtonBox::RejectRole);
+    cancel->setObjectName(QStringLiteral("Command1"));
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(columns, 1);
     layout->addWidget(buttons);
