@@ -33,6 +33,7 @@ void WritingPause::letSee(Stage& stage) {
 bool WritingPause::eventFilter(QObject*, QEvent* event) {
     switch (event->type()) {
         case QEvent::KeyPress:
+        case QEvent::ShortcutOverride:  // a command's key comes no further than this
             if (static_cast<QKeyEvent*>(event)->isAutoRepeat()) return true;  // of the key that began it
             [[fallthrough]];
         case QEvent::MouseButtonPress:
@@ -43,7 +44,6 @@ bool WritingPause::eventFilter(QObject*, QEvent* event) {
             loop_.quit();
             return true;
         case QEvent::Shortcut:
-        case QEvent::ShortcutOverride:
         case QEvent::ContextMenu:
         case QEvent::Wheel: return true;
         default: return false;
