@@ -80,6 +80,16 @@ TEST_F(DeskEvents, what_is_typed_and_what_is_shown_can_be_heard) {
     EXPECT_EQ(spokenLineInView(), "x equals 9");
 }
 
+TEST_F(DeskEvents, a_solution_begins_without_the_note_of_the_one_before) {
+    for (const char* problem : {"1/2+1/3", "3/2*7/9"}) {
+        open("Fraction Arithmetic");
+        typeKeys(problem);
+        mnuSolve_Click();
+        EXPECT_EQ(ws.StepNotes[1], "") << problem;
+        EXPECT_NE(ws.StepNotes[2], "") << problem;
+    }
+}
+
 TEST_F(DeskEvents, options_change_the_desk_at_once) {
     open("Arithmetic");
     mnuShowLight_Click();
