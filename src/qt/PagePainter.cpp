@@ -15,7 +15,6 @@ namespace {
 
 constexpr double unitsOfInch = 96;
 constexpr double pointsOfInch = 72;
-constexpr int pdfResolution = 1200;
 
 // All others write on A4.
 constexpr QLocale::Territory letterTerritories[] = {
@@ -37,29 +36,36 @@ void paintPage(QPainter& painter, const PaperSize& paper, const DisplayList& pag
     painter.restore();
 }
 
+bool paintPages(QPagedPaintDevice& device, const std::vector<PrintJob>& jobs) {
+    QPageLayout layout = device.pageLayout();
+    layout.setMode(QPageLayout::FullPageMode);
+    QPainter painter;
+    if (!device.setPageLayout(layout) || !painter.begin(&device)) return false;
+    painter.scale(device.logicalDpiX() / unitsOfInch, device.logicalDpiY() / unitsOfInch);
+    bool fresh = true;
+    for (const PrintJob& job : jobs) {
+        for (const DisplayList& page : job.pages) {
+            if (!fresh && !device.newPage()) return false;
+            fresh = false;
+            paintPage(painter, job.paper, page);
+        }
+    }
+    return painter.end();
+}
+
 QByteArray pagesAsPdf(const std::vector<PrintJob>& jobs) {
+    constexpr int resolution = 1200;
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter pdf(&buffer);
-    pdf.setResolution(pdfResolution);
+    pdf.setResolution(resolution);
     pdf.setCreator(QStringLiteral("Ordwise"));
-    if (!jobs.empty()) pdf.setTitle(qstringOf(jobs.front().title));
-    QPainter painter;
-    for (const PrintJob& job : jobs) {
-        pdf.setPageSize(pageSizeOf(job.paper));
-        pdf.setPageMargins(QMarginsF());
-        for (const DisplayList& page : job.pages) {
-            if (painter.isActive()) {
-                pdf.newPage();
-            } else {
-                painter.begin(&pdf);
-                painter.scale(pdfResolution / unitsOfInch, pdfResolution / unitsOfInch);
-            }
-            paintPage(painter, job.paper, page);
-        }
+    if (!jobs.empty()) {
+        pdf.setTitle(qstringOf(jobs.front().title));
+        pdf.setPageSize(pageSizeOf(jobs.front().paper));
     }
-    painter.end();
+    (void)paintPages(pdf, jobs);  // memory takes everything
     return bytes;
 }
 

@@ -9,6 +9,7 @@
 
 #include <vector>
 
+class QPagedPaintDevice;
 class QPainter;
 
 namespace ordwise {
@@ -16,6 +17,10 @@ namespace ordwise {
 // Draws a page of a job. The painter's origin is the corner of the paper and its unit a 96th of an
 // inch, whatever the resolution behind it.
 void paintPage(QPainter& painter, const PaperSize& paper, const DisplayList& page);
+
+// Paints all pages on the device, a printer or a PDF, whose paper is that of the jobs. False if it did
+// not take them.
+[[nodiscard]] bool paintPages(QPagedPaintDevice& device, const std::vector<PrintJob>& jobs);
 
 // The jobs one behind the other as a PDF: letters as letters of embedded fonts, lines as lines.
 [[nodiscard]] QByteArray pagesAsPdf(const std::vector<PrintJob>& jobs);

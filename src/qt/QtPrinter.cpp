@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
@@ -18,8 +17,6 @@
 
 namespace ordwise {
 namespace {
-
-constexpr double unitsOfInch = 96;
 
 // e.g. "Area of a Square/Rectangle" -> "Area of a Square-Rectangle.pdf"
 std::string fileNameOf(const std::string& title) {
@@ -31,21 +28,6 @@ QString documentNamed(const std::string& name) {
     return QDir(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)).filePath(qstringOf(name));
 }
 
-bool paintJob(QPrinter& device, const PrintJob& job) {
-    QPainter painter;
-    if (!painter.begin(&device)) return false;
-    const double scale = device.resolution() / unitsOfInch;
-    painter.scale(scale, scale);
-    for (const DisplayList& page : job.pages) {
-        if (&page != &job.pages.front() && !device.newPage()) {
-            device.abort();
-            return false;
-        }
-        paintPage(painter, job.paper, page);
-    }
-    return painter.end() && device.printerState() != QPrinter::Error;
-}
-
 }  // namespace
 
 QtPrinter::QtPrinter(Devices devices) : devices_(devices) {}
@@ -55,7 +37,6 @@ QPrinter& QtPrinter::device() const {
     if (device_ == nullptr) {
         device_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
         if (devices_ == Devices::None) device_->setOutputFormat(QPrinter::PdfFormat);
-        device_->setFullPage(true);
         device_->setPageLayout(localPaper());
     }
     return *device_;
@@ -92,7 +73,8 @@ std::string QtPrinter::printToFile(const PrintJob& job) {
 
 std::string QtPrinter::printToDevice(const PrintJob& job) {
     device().setDocName(qstringOf(job.title));
-    if (!paintJob(device(), job)) return "The printer \"" + DeviceName() + "\" did not take the pages.";
+    if (!paintPages(device(), {job}) || device().printerState() == QPrinter::Error)
+        return "The printer \"" + DeviceName() + "\" did not take the pages.";
     frmMain.StatusText = "Printed on \"" + DeviceName() + "\".";
     return "";
 }
@@ -108,7 +90,6 @@ void QtPrinter::setup() {
         if (QPushButton* accept = buttons->button(QDialogButtonBox::Ok)) accept->setText(QStringLiteral("&OK"));
     }
     if (dialog.exec() != QDialog::Accepted) return;
-    device().setFullPage(true);
     chosenFile_ = printsToFile() ? device().outputFileName() : QString();
 }
 
