@@ -316,6 +316,7 @@ void PracticeTestDialog::showOutline() {
         section.topic->setCursorPosition(0);
         section.topic->setToolTip(topic);
         section.topic->setEnabled(taken);
+        section.complex->setChecked(frmPracticeTest.Check1[number].Checked);
         section.count->setEnabled(taken);
         section.complex->setEnabled(taken);
         section.clear->setEnabled(taken);
