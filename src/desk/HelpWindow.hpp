@@ -8,7 +8,7 @@ namespace ordwise {
 struct HelpWindow {
     bool Loaded = false;
     std::string Caption = "Ordwise Help";
-    std::string Place;  // the page in view, e.g. "fractions.html#reciprocals"
+    std::string Place;  // the page asked for, e.g. "fractions.html#reciprocals"; "" once it is in view
 };
 
 extern HelpWindow frmHelp;

@@ -164,6 +164,7 @@ void FrameWindow::addToolbar() {
     toolbar_ = addToolBar(QStringLiteral("Toolbar"));
     toolbar_->setObjectName(QStringLiteral("Toolbar1"));
     toolbar_->setMovable(false);
+    toolbar_->setContextMenuPolicy(Qt::PreventContextMenu);  // it would offer to hide it for good
     toolbar_->setIconSize(QSize(32, 32));
     int last = 0;
     for (const ToolRow& row : toolbarRows()) {
@@ -234,7 +235,8 @@ void FrameWindow::dragEnterEvent(QDragEnterEvent* event) {
 // solved after that.
 void FrameWindow::dropEvent(QDropEvent* event) {
     const std::string path = QFile::encodeName(draggedFile(*event->mimeData())).toStdString();
-    event->acceptProposedAction();
+    event->setDropAction(Qt::CopyAction);  // whoever moves a file deletes it once it was taken
+    event->accept();
     QTimer::singleShot(0, this, [this, path] { stage_.perform([&path] { openProblemFile(path); }); });
 }
 

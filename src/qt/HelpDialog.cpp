@@ -164,9 +164,9 @@ void HelpDialog::buildContents() {
 }
 
 void HelpDialog::showChanges() {
-    if (!frmHelp.Loaded || frmHelp.Place == shown_) return;
-    shown_ = frmHelp.Place;
-    turnTo(qstringOf(shown_));
+    if (frmHelp.Place.empty()) return;
+    turnTo(qstringOf(frmHelp.Place));
+    frmHelp.Place.clear();
 }
 
 void HelpDialog::turnTo(const QString& place) {

@@ -23,7 +23,7 @@ class HelpDialog : public QDialog, public WindowView {
 public:
     HelpDialog(QWidget* parent, Stage& stage);
 
-    // Turns to the page that was asked for.
+    // Turns to the page that was asked for, once: from then on the reader turns the pages.
     void showChanges() override;
 
     [[nodiscard]] HelpBrowser& page() const { return *page_; }
@@ -52,7 +52,6 @@ private:
     QAction* back_ = nullptr;
     QAction* forward_ = nullptr;
     std::map<QString, QString> plainTexts_;  // of the pages, for the search
-    std::string shown_;                      // the place that the logic asked for last
 };
 
 }  // namespace ordwise

@@ -1,6 +1,7 @@
 // The guide in its window.
 #include "DeskFixture.hpp"
 
+#include "FrameMenus.hpp"
 #include "HelpBrowser.hpp"
 #include "HelpDialog.hpp"
 #include "HelpPages.hpp"
@@ -45,6 +46,8 @@ TEST_F(Help, OpensAtTheTopicInWorkAndGoesBackAndForward) {
     EXPECT_EQ(markedIn(*help), "Reciprocals");
     QTest::keyClick(help, Qt::Key_Right, Qt::AltModifier);
     EXPECT_EQ(placeIn(*help), "typing.html#light");
+    EXPECT_EQ(&open(), help);
+    EXPECT_EQ(placeIn(*help), "fractions.html#reciprocals") << "asked for again";
     QTest::keyClick(help, Qt::Key_Escape);
     EXPECT_EQ(frame->windows().open("frmHelp"), nullptr);
     EXPECT_FALSE(frmHelp.Loaded);
@@ -87,6 +90,20 @@ TEST_F(Help, FindsPagesByTheirWordsAndThePlaceInThePage) {
     EXPECT_EQ(help.page().textCursor().selectedText(), QStringLiteral("hypotenuse"));
     help.searchBox().clear();
     EXPECT_FALSE(help.contents().topLevelItem(0)->isHidden());
+}
+
+TEST_F(Help, NamesEveryKeyOfTheMenus) {
+    const QString page = HelpBrowser::pageText(QStringLiteral("keys.html"));
+    int keys = 0;
+    for (const MenuTable& menu : frameMenus()) {
+        for (const MenuRow& row : menu.rows) {
+            if (row.keys.isEmpty()) continue;
+            const QString key = row.keys.toString().replace(QStringLiteral("Del"), QStringLiteral("Delete"));
+            EXPECT_TRUE(page.contains(QStringLiteral("<b>") + key + QStringLiteral("</b>"))) << key.toStdString();
+            ++keys;
+        }
+    }
+    EXPECT_GT(keys, 10);
 }
 
 TEST_F(Help, GrowsWithItsPictures) {
