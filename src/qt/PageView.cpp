@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 namespace ordwise {
 namespace {
@@ -83,9 +84,18 @@ void PageView::wheelEvent(QWheelEvent* event) {
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
         setScale(scale_ * std::pow(1.2, event->angleDelta().y() / 120.0));
         event->accept();
-    } else {
-        QScrollArea::wheelEvent(event);
+        return;
     }
+    constexpr int notch = 120;
+    const int delta = event->angleDelta().y();
+    const QScrollBar& bar = *verticalScrollBar();
+    const bool atEnd = bar.value() == (delta < 0 ? bar.maximum() : bar.minimum());
+    beyond_ = atEnd ? beyond_ + delta : 0;
+    if (!atEnd) return QScrollArea::wheelEvent(event);
+    event->accept();
+    if (std::abs(beyond_) < notch) return;
+    if (turned) turned(beyond_ < 0 ? 1 : -1);
+    beyond_ = 0;
 }
 
 }  // namespace ordwise

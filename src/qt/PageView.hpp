@@ -14,7 +14,8 @@ public:
 
     explicit PageView(QWidget* parent);
 
-    std::function<void()> scaleChanged;  // also by the wheel
+    std::function<void()> scaleChanged;  // also by the wheel with Ctrl
+    std::function<void(int)> turned;     // 1 or -1: the wheel went on beyond the end of the page
 
     void setFit(Fit fit);
     // 1 is the size of the paper. Stays between the limits and lets go of the fit.
@@ -38,6 +39,7 @@ private:
     QWidget* page_;
     Fit fit_ = Fit::Page;
     double scale_ = 1;
+    int beyond_ = 0;  // how far the wheel went, in its own units
 };
 
 }  // namespace ordwise

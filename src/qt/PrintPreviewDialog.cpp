@@ -48,6 +48,7 @@ PrintPreviewDialog::PrintPreviewDialog(QWidget* parent, Stage& stage)
     frmPrintPreview_Paint();
     page_->setObjectName(QStringLiteral("Picture1"));
     page_->scaleChanged = [this] { showZoom(); };
+    page_->turned = [this](int by) { stage_.perform([by] { showPreviewPage(ws.PreviewPage + by); }); };
     setLayout(new QVBoxLayout);
     addTools();
     layout()->addWidget(page_);

@@ -64,7 +64,7 @@ std::string QtPrinter::printToFile(const PrintJob& job) {
     const std::optional<std::string> path =
         platform.fileDialogs->fileToSave({"Print to PDF", "PDF files (.pdf)|*.pdf", "pdf",
                                           proposed.path().toStdString(), proposed.fileName().toStdString()});
-    if (!path) return "Nothing was printed.";
+    if (!path) return "Printing was cancelled.";
     const QByteArray bytes = pagesAsPdf({job});
     std::string trouble = platform.files->write(*path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
     if (trouble.empty()) frmMain.StatusText = "Printed to \"" + *path + "\".";

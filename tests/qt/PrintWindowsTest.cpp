@@ -26,6 +26,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
+#include <QWheelEvent>
 
 namespace ordwise::test {
 namespace {
@@ -119,6 +120,10 @@ TEST_F(PrintWindows, a_test_is_outlined_created_turned_over_and_printed) {
             QTest::keyClick(&preview, Qt::Key_Home);
             shootWidget(preview, "print-preview");
             auto& page = in<PageView>(preview, "Picture1");
+            QWheelEvent wheel(QPointF(50, 50), page.mapToGlobal(QPointF(50, 50)), {}, QPoint(0, -120), {}, {},
+                              Qt::NoScrollPhase, false);
+            QApplication::sendEvent(page.viewport(), &wheel);
+            EXPECT_EQ(frmPrintPreview.FrontPage, 1) << "the page has no more to be scrolled";
             const double fitting = page.scale();
             QTest::keyClick(&preview, Qt::Key_Plus, Qt::ControlModifier);
             EXPECT_GT(page.scale(), fitting);
