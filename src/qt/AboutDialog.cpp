@@ -20,7 +20,8 @@ constexpr const char* about =
     "A tutor and solver for school mathematics: one step a line, and a reason for every step.\n\n"
     "Ordwise is free software under the MIT licence. You may use, share and change it; it comes without any "
     "warranty.\n\n"
-    "Made with Qt (LGPL 3). Pictures and letters are drawn for Ordwise.";
+    "Made with Qt (LGPL 3). The pictures and the signs of mathematics are drawn for Ordwise, the letters come from "
+    "the fonts of your system.";
 
 }  // namespace
 
