@@ -26,19 +26,26 @@ struct Decimal {
 Decimal decimalOf(double value, int significant) {
     if (value == 0.0) return {};
     char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.*e", significant - 1, value);
+    const auto written =
+        std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::scientific, significant - 1);
+    const std::string_view text(buffer, static_cast<std::size_t>(written.ptr - buffer));
+    const std::size_t e = text.find('e');
     Decimal result;
-    const char* p = buffer;
-    if (*p == '-') {
-        result.negative = true;
-        ++p;
+    result.negative = value < 0;
+    for (const char c : text.substr(0, e)) {
+        if (c != '.') result.digits += c;
     }
-    for (; *p != 'e' && *p != '\0'; ++p) {
-        if (*p >= '0' && *p <= '9') result.digits += *p;
-    }
-    if (*p == 'e') result.exponent = std::atoi(p + 1);
-    while (!result.digits.empty() && result.digits.back() == '0') result.digits.pop_back();
+    const std::string_view exponent = text.substr(e + 2);  // behind its sign
+    std::from_chars(exponent.data(), exponent.data() + exponent.size(), result.exponent);
+    if (text[e + 1] == '-') result.exponent = -result.exponent;
+    while (result.digits.back() == '0') result.digits.pop_back();
     return result;
+}
+
+// Most numbers of school mathematics are whole and short enough for every digit to count.
+bool isShortWhole(double value, int significant) {
+    const double limit = significant == singleDigits ? 1e7 : 1e15;
+    return std::fabs(value) < limit && value == std::trunc(value);
 }
 
 std::string exponentForm(const Decimal& number) {
@@ -60,8 +67,8 @@ std::string plainForm(const Decimal& number) {
 }
 
 std::string write(double value, int significant) {
+    if (isShortWhole(value, significant)) return std::to_string(static_cast<std::int64_t>(value));
     const Decimal number = decimalOf(inRange(value), significant);
-    if (number.digits.empty()) return "0";
     const bool plain = number.exponent < significant && number.exponent >= smallestPlainExponent;
     return (number.negative ? "-" : "") + (plain ? plainForm(number) : exponentForm(number));
 }
@@ -107,10 +114,22 @@ bool isLarge(std::string_view number) {
     return exponent + point - first > 0;
 }
 
+// Digits alone, and so few that a double holds the number exactly.
+bool isShortDigits(std::string_view number) {
+    return number.size() <= doubleDigits &&
+           std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+double wholeOf(std::string_view digits) {
+    std::int64_t value = 0;
+    for (const char c : digits) value = value * 10 + (c - '0');
+    return static_cast<double>(value);
+}
+
 // The double of text that numberLength has measured. Not strtod, which would read the point of the
 // user's locale. Fault 6 beyond the range; what is too small is 0.
 double read(std::string_view number) {
     if (number.front() == '+') number.remove_prefix(1);
+    if (isShortDigits(number)) return wholeOf(number);
     double value = 0;
     const auto result = std::from_chars(number.data(), number.data() + number.size(), value);
     if (result.ec != std::errc::result_out_of_range) return value;
@@ -119,6 +138,7 @@ double read(std::string_view number) {
 }
 
 double roundDigits(double value, int places, int significant) {
+    if (places >= 0 && isShortWhole(value, significant)) return value == 0.0 ? 0.0 : value;
     Decimal number = decimalOf(value, significant);
     // How many of the digits stay; the first digit stands `exponent` places left of the point.
     const int kept = number.exponent + 1 + places;

@@ -41,10 +41,6 @@ std::string lowered(std::string_view text) {
     return result;
 }
 
-bool contains(std::string_view text, std::string_view piece) {
-    return text.find(piece) != std::string_view::npos;
-}
-
 std::vector<std::string> characters(std::string_view utf8) {
     std::vector<std::string> result;
     for (std::size_t i = 0; i < utf8.size();) {

@@ -17,7 +17,9 @@ namespace ordwise {
 [[nodiscard]] std::string trimmed(std::string_view text);
 // ASCII letters in lower case, all other bytes as they are.
 [[nodiscard]] std::string lowered(std::string_view text);
-[[nodiscard]] bool contains(std::string_view text, std::string_view piece);
+[[nodiscard]] inline bool contains(std::string_view text, std::string_view piece) {
+    return text.find(piece) != std::string_view::npos;
+}
 // The characters of UTF-8 text, one string each; a byte that belongs to no character stands alone.
 [[nodiscard]] std::vector<std::string> characters(std::string_view utf8);
 

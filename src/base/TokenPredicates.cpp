@@ -2,18 +2,6 @@
 
 namespace ordwise {
 
-bool IsLetter(std::string_view s) {
-    return (s >= "A" && s <= "Z") || (s >= "a" && s <= "z");
-}
-
-bool IsOperator(std::string_view s) {
-    return s == "-" || s == "+" || s == "*" || s == "/";
-}
-
-bool IsSign(std::string_view s) {
-    return s == "-" || s == "+";
-}
-
 bool IsFractionToken(std::string_view s) {
     if (IsOperator(s)) return false;
     for (std::size_t i = 1; i < s.size(); ++i) {

@@ -55,26 +55,26 @@ private:
     }
 
     void read(const std::string& token) {
-        if (IsLetter(token)) {
-            letter(token);
-        } else if (IsSign(token) || token == "*") {
-            openTerm(token);
-        } else if (token == "/") {
-            bar();
-        } else if (token == "|") {
-            barOpen_ ? closeGroup() : openBars();
-            barOpen_ = !barOpen_;
-        } else if (token == "(") {
-            openParenthesis();
-        } else if (token == ")") {
-            closeGroup();
-        } else if (token == "^") {
-            exponent();
-        } else if (contains(token, "~")) {
-            radical(token);
-        } else if (token != "[" && token != "]" && token != "=") {
-            number(token);
+        if (IsLetter(token)) return letter(token);
+        switch (token.size() == 1 ? token[0] : '0') {
+            case '+':
+            case '-':
+            case '*': return openTerm(token);
+            case '/': return bar();
+            case '|': return absoluteBar();
+            case '(': return openParenthesis();
+            case ')': return closeGroup();
+            case '^': return exponent();
+            case '[':
+            case ']':
+            case '=': return;
+            default: contains(token, "~") ? radical(token) : number(token);
         }
+    }
+
+    void absoluteBar() {
+        barOpen_ ? closeGroup() : openBars();
+        barOpen_ = !barOpen_;
     }
 
     // e.g. the y of -xy: varName 2 is y, numText grows to "xy"; the x of 3/x: denText "x"
@@ -83,7 +83,7 @@ private:
         if (R.numerator == 1.0F) R.numerator *= sign_;
         R.varExp[slot_] = 1.0F;
         if (slot_ > 1) R.varExp[slot_ - 1] = pendingExp_;
-        R.varName[slot_] = token;
+        R.varName[slot_] = token[0];
         R.nextVar += 1;
         R.termText += token;
         letters_ += token;
@@ -106,20 +106,20 @@ private:
         termCount(ws.CurrentDepth, ws.CurrentGroup) += 1;
         term() = ExprTerm();
         term().lead = token;
-        if (token == "*") ws.GroupProduct[ws.CurrentDepth][ws.CurrentGroup] = true;
+        if (isMark(token, '*')) ws.GroupProduct[ws.CurrentDepth][ws.CurrentGroup] = true;
     }
 
     // e.g. x/2: what follows belongs under the bar of this term. (x+1)/2: the bar of the group.
     void bar() {
         ExprTerm& R = term();
         R.termText += "/";
-        if (group().power <= 1.0F && tokenAt(i_ - 1) != ")") {
+        if (group().power <= 1.0F && !isMark(tokenAt(i_ - 1), ')')) {
             R.numText = letters_;
             R.hasFractionBar = true;
         } else {
             ws.GroupTable[ws.CurrentDepth + 1].slot(ws.CurrentGroup).hasFractionBar = true;
         }
-        if (tokenAt(i_ + 1) != "(") {
+        if (!isMark(tokenAt(i_ + 1), '(')) {
             R.inDenominator = true;
         } else {
             group().inDenominator = true;
@@ -155,22 +155,24 @@ private:
     // e.g. the "(" of -3x/2(x+1): the term -3x/2 is the factor in front and leaves the outer group.
     void openParenthesis() {
         const std::string& previous = tokenAt(i_ - 1);
-        const ExprTerm factor = previous == ")" ? ExprTerm() : term();
+        const bool behindGroup = isMark(previous, ')');
+        const ExprTerm factor = behindGroup ? ExprTerm() : term();
         const int outer = enterGroup();
         ExprGroup& opened = group();
         opened.prefixStart = factorStart();
-        if (previous == ")") {
+        if (behindGroup) {
             // (a)(b): no factor between the two
             ws.GroupTable[ws.CurrentDepth].slot(std::max(ws.CurrentGroup - 1, 0)).nextGroup = ws.CurrentGroup;
         } else {
             const float size = number_ == 0.0F ? 1.0F : std::fabs(number_);
-            opened.prefixCoef = tokenAt(opened.prefixStart) == "-" ? -size : size;
+            opened.prefixCoef = isMark(tokenAt(opened.prefixStart), '-') ? -size : size;
             opened.prefixText = factor.numText;
             opened.prefixNumerator = factor.numerator;
             opened.prefixDenText = factor.denText;
             opened.prefixDenominator = factor.denominator;
             opened.prefixExp = pendingExp_;
-            const bool factorLeaves = previous != "[" && !IsOperator(previous) && !holdsGroup(opened.prefixStart, i_);
+            const bool factorLeaves =
+                !isMark(previous, '[') && !IsOperator(previous) && !holdsGroup(opened.prefixStart, i_);
             if (factorLeaves) termCount(ws.CurrentDepth - 1, outer) -= 1;
         }
         startInside();
@@ -189,9 +191,9 @@ private:
         int level = 0;
         for (int slot = i_ - 1; slot > 0; --slot) {
             const std::string& token = tokenAt(slot);
-            if (token == ")") ++level;
-            if (token == "(" && --level < 0) return slot;
-            const bool opensTerm = token == "*" || (IsSign(token) && tokenAt(slot - 1) != "^");
+            if (isMark(token, ')')) ++level;
+            if (isMark(token, '(') && --level < 0) return slot;
+            const bool opensTerm = isMark(token, '*') || (IsSign(token) && !isMark(tokenAt(slot - 1), '^'));
             if (level == 0 && opensTerm) return slot;
         }
         return 0;
@@ -200,7 +202,7 @@ private:
     // The term left with a group before. e.g. between the "-" and the second "(" of -5(2)^3(6)
     static bool holdsGroup(int from, int to) {
         for (int slot = from; slot < to; ++slot) {
-            if (tokenAt(slot) == ")") return true;
+            if (isMark(tokenAt(slot), ')')) return true;
         }
         return false;
     }
@@ -215,11 +217,11 @@ private:
     // e.g. x^2 and 2^3: of the term; (x+1)^2: of the group that has just closed
     void exponent() {
         const int base = i_ - 1;
-        if (tokenAt(i_ + 1) == "-") ++i_;
-        const bool negative = tokenAt(i_) == "-";
+        const bool negative = isMark(tokenAt(i_ + 1), '-');
+        if (negative) ++i_;
         if (negative || IsNumeric(tokenAt(i_ + 1))) pendingExp_ = (negative ? -1.0F : 1.0F) * singleOf(tokenAt(i_ + 1));
         ++i_;
-        if (tokenAt(base) == ")" || (tokenAt(base) == "|" && !negative)) {
+        if (isMark(tokenAt(base), ')') || (isMark(tokenAt(base), '|') && !negative)) {
             GroupLevel& level = ws.GroupTable[ws.CurrentDepth + 1];
             ExprGroup& closed = level.slot(level.lastGroup);
             closed.power = pendingExp_;
@@ -299,10 +301,12 @@ std::string signedFractions() {
 
 void ParseExpression() {
     CollectVariables();
-    ResetStore(false);
     NormaliseSigns();
     TrimTokenLast();
+    if (ws.StoreSource.is(ws.TokenBuffer, ws.TokenLast, ws.CurrentSide)) return;
+    ResetStore(false);
     Parse().run();
+    if (!isPastTheTables()) ws.StoreSource.remember(ws.TokenBuffer, ws.TokenLast, ws.CurrentSide);
 }
 
 std::string EquationText() {

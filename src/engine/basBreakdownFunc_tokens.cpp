@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
-#include <vector>
 
 namespace ordwise {
 namespace {
@@ -24,13 +23,14 @@ constexpr int readMargin = 5;
 
 std::string joinedTokens(const TokenArray& tokens, int last) {
     std::string text;
-    for (int i = 0; i <= std::min(last, tokens.used() - 1); ++i) text += tokens[i];
+    const int end = std::min(last, tokens.used() - 1);
+    for (int i = 0; i <= end; ++i) text += tokens[i];
     return text;
 }
 
 // Digits with or without a point, one character or a whole cell. e.g. "7", "18", "2.5"
 bool isUnsignedNumber(const std::string& token) {
-    return IsNumeric(token) && !IsSign(token.substr(0, 1));
+    return !token.empty() && token[0] != '+' && token[0] != '-' && IsNumeric(token);
 }
 
 // A slot before the text reads as slot 0.
@@ -42,7 +42,7 @@ const std::string& tokenFromStart(const TokenArray& tokens, int slot) {
 
 int FindEquals() {
     for (int i = 0; i <= ws.TokenLast; ++i) {
-        if (ws.TokenBuffer[i] == "=") return i;
+        if (isMark(ws.TokenBuffer[i], '=')) return i;
     }
     return ws.TokenLast;
 }
@@ -66,12 +66,14 @@ void CollectVariables() {
 }
 
 void ExplodeTokens(std::string_view text) {
-    const std::string wanted = replaced(std::string(text), " ", "");
     const int limit = ws.TokenLast + growthLimit;
     ws.TokenBuffer.clear(0, ws.TokenLast + clearMargin);
-    const int length = static_cast<int>(wanted.size());
-    for (int i = 0; i < std::min(length, limit); ++i)
-        ws.TokenBuffer.set(i, wanted.substr(static_cast<std::size_t>(i), 1));
+    int length = 0;
+    for (const char c : text) {
+        if (c == ' ') continue;
+        if (length < limit) ws.TokenBuffer.slot(length).assign(1, c);
+        ++length;
+    }
     if (length < limit) ws.TokenLast = length + 1;
 }
 
@@ -105,34 +107,37 @@ void TrimTokenLast() {
 
 namespace {
 
+// Writes the merged tokens into the spare buffer; `count` of them so far.
 class NumberMerger {
 public:
-    std::vector<std::string> run() {
+    int run() {
+        ws.SpareTokens.clear();
         for (int i = 0; i < ws.TokenLast; ++i) take(i);
-        return std::move(out_);
+        return count_;
     }
 
 private:
     static const std::string& at(int slot) { return tokenFromStart(ws.TokenBuffer, slot); }
-    // The token written `back` before the last one.
-    std::string written(std::size_t back) const { return out_.size() > back ? out_[out_.size() - 1 - back] : ""; }
+    // The token written `back` before the last one, the empty one behind it when there are not so many.
+    const std::string& written(int back) const { return ws.SpareTokens[count_ > back ? count_ - 1 - back : count_]; }
 
     void own(const std::string& token) {
-        if (!token.empty()) out_.push_back(token);
+        if (!token.empty()) ws.SpareTokens.slot(count_++) = token;
         inNumber_ = false;
     }
 
     void take(int i) {
         const std::string& c = at(i);
-        const bool startsNumber = isUnsignedNumber(c) || c == "." || c == "~";
-        const bool joinsNumber = startsNumber || c == "E" || c == "/" || (IsSign(c) && at(i - 1) == "E");
+        const bool startsNumber = isUnsignedNumber(c) || isMark(c, '.') || isMark(c, '~');
+        const bool joinsNumber =
+            startsNumber || isMark(c, 'E') || isMark(c, '/') || (IsSign(c) && isMark(at(i - 1), 'E'));
         if (!inNumber_ || !joinsNumber) {
             own(c);
             inNumber_ = startsNumber;
-        } else if (c == "/" && !barMerges(i)) {
+        } else if (isMark(c, '/') && !barMerges(i)) {
             own(c);
         } else {
-            out_.back() += c;
+            ws.SpareTokens.slot(count_ - 1) += c;
         }
     }
 
@@ -140,102 +145,113 @@ private:
     // another fraction, and only if what follows the denominator's first digit is no letter.
     // e.g. 3/4+1 and [1/2]*3/3 merge; x^2/3, 3/4x and 3/x do not
     bool barMerges(int i) const {
-        const bool inExponent = written(1) == "^" || (written(1) == "-" && written(2) == "^");
-        if (inExponent || IsFractionToken(out_.back()) || at(i - 1) == ")") return false;
-        const std::string& digit = ws.TokenBuffer[i + 1];
-        const std::string& behind = ws.TokenBuffer[i + 2];
-        static const std::vector<std::string> ends = {"", ".", "(", ")", "|", "=", "[", "]"};
-        return IsNumeric(digit) &&
-               (IsOperator(behind) || IsNumeric(behind) || std::find(ends.begin(), ends.end(), behind) != ends.end());
+        const bool inExponent = isMark(written(1), '^') || (isMark(written(1), '-') && isMark(written(2), '^'));
+        if (inExponent || IsFractionToken(written(0)) || isMark(at(i - 1), ')')) return false;
+        return IsNumeric(ws.TokenBuffer[i + 1]) && endsDigit(ws.TokenBuffer[i + 2]);
     }
 
-    std::vector<std::string> out_;
+    static bool endsDigit(const std::string& token) {
+        if (token.empty() || IsOperator(token) || IsNumeric(token)) return true;
+        return token.size() == 1 && contains(".()|=[]", token);
+    }
+
+    int count_ = 0;
     bool inNumber_ = false;
 };
 
 }  // namespace
 
 void MergeNumbers() {
-    const std::vector<std::string> merged = NumberMerger().run();
-    ws.TokenBuffer.clear();
-    const int count = static_cast<int>(merged.size());
-    for (int i = 0; i < count; ++i) ws.TokenBuffer.set(i, merged[static_cast<std::size_t>(i)]);
-    ws.TokenLast = count + 3;
+    ws.TokenLast = NumberMerger().run() + 3;
+    std::swap(ws.TokenBuffer, ws.SpareTokens);
 }
 
 // --- NormaliseSigns
 
 namespace {
 
-using Tokens = std::vector<std::string>;
-
-const std::string& at(const Tokens& tokens, std::size_t slot) {
-    static const std::string none;
-    return slot < tokens.size() ? tokens[slot] : none;
-}
-const std::string& before(const Tokens& tokens, std::size_t slot, std::size_t back) {
-    return at(tokens, slot > back ? slot - back : 0);
-}
-
 // e.g. the "[" of =[-x]: the sign is already there, inside the mark
-bool startsWithSign(const Tokens& tokens, std::size_t slot) {
-    return IsSign(at(tokens, slot)) || (at(tokens, slot) == "[" && IsSign(at(tokens, slot + 1)));
+bool startsWithSign(const TokenArray& tokens, int slot) {
+    return IsSign(tokens[slot]) || (isMark(tokens[slot], '[') && IsSign(tokens[slot + 1]));
 }
 
-// The text with a sign at its start and behind "=". e.g. 2x=4 -> +2x=+4
-Tokens withOuterSigns() {
-    Tokens tokens;
-    if (!IsSign(ws.TokenBuffer[0])) tokens.emplace_back("+");
+void insertPlus(TokenArray& tokens, int slot) {
+    std::string moved = "+";
+    for (int i = slot; !moved.empty(); ++i) std::swap(tokens.slot(i), moved);
+}
+
+// The tokens of the buffer with a sign at their start and behind "=". e.g. 2x=4 -> +2x=+4
+void writeOuterSigns(TokenArray& tokens) {
+    tokens.clear();
+    int count = 0;
+    if (!IsSign(ws.TokenBuffer[0])) tokens.slot(count++) = "+";
     const int end = std::min(ws.TokenLast + 1, ws.TokenBuffer.used() - 1);
     for (int i = 0; i <= end; ++i) {
-        if (!ws.TokenBuffer[i].empty()) tokens.push_back(ws.TokenBuffer[i]);
+        if (!ws.TokenBuffer[i].empty()) tokens.slot(count++) = ws.TokenBuffer[i];
     }
-    for (std::size_t i = 0; i < tokens.size(); ++i) {
-        if (tokens[i] == "=" && !startsWithSign(tokens, i + 1))
-            tokens.insert(tokens.begin() + static_cast<std::ptrdiff_t>(i) + 1, "+");
+    for (int i = 0; i < tokens.used(); ++i) {
+        if (isMark(tokens[i], '=') && !startsWithSign(tokens, i + 1)) insertPlus(tokens, i + 1);
     }
-    return tokens;
 }
 
 // The star of 3*(x) is dropped, since 3(x) says the same to the store. It stays behind an exponent,
 // a fraction token, and a fraction with letters, where 2^3(x) and 1/2x(x) would say something else.
-bool starIsDropped(const Tokens& tokens, std::size_t slot) {
-    const auto p = [&](std::size_t back) -> const std::string& { return before(tokens, slot, back); };
-    if (at(tokens, slot) != "*" || at(tokens, slot + 1) != "(" || p(2) == "^" || IsFractionToken(p(1))) return false;
-    const bool letterFraction = p(2) == "/" && p(3) != ")" && (IsLetter(p(3)) || IsLetter(p(4)) || IsLetter(p(5)));
+bool starIsDropped(const TokenArray& tokens, int slot) {
+    const auto p = [&](int back) -> const std::string& { return tokenFromStart(tokens, slot - back); };
+    if (!isMark(tokens[slot], '*') || !isMark(tokens[slot + 1], '(')) return false;
+    if (isMark(p(2), '^') || IsFractionToken(p(1))) return false;
+    const bool letterFraction =
+        isMark(p(2), '/') && !isMark(p(3), ')') && (IsLetter(p(3)) || IsLetter(p(4)) || IsLetter(p(5)));
     return !letterFraction;
 }
 
-// A term at the start of a group gets its sign. e.g. (x -> (+x; a bar opens at every odd one.
-Tokens withInnerSigns(const Tokens& tokens) {
-    Tokens out(1);
-    int bars = 0;
-    for (std::size_t i = 0; i < tokens.size(); ++i) {
-        const std::string& t = tokens[i];
-        if (starIsDropped(tokens, i)) continue;
-        out.push_back(t);
-        if (t == "|") ++bars;
-        const bool opens = t == "(" || (t == "|" && bars % 2 == 1);
-        const std::string& next = at(tokens, i + 1);
-        if (opens && !startsWithSign(tokens, i + 1) && !next.empty() && next != ")")
-            out.emplace_back(lenientValueOf(next) < 0 ? "-" : "+");
+// Writes the tokens into the buffer from slot 1 on, with a sign for each term at the start of a
+// group. e.g. (x -> (+x; a bar opens at every odd one.
+class InnerSigns {
+public:
+    explicit InnerSigns(const TokenArray& tokens) : tokens_(tokens) {}
+
+    void run() {
+        ws.TokenBuffer.clear();
+        for (int i = 0; i < tokens_.used(); ++i) take(i);
+        ws.TokenLast = next_;
     }
-    return out;
-}
+
+private:
+    void take(int i) {
+        const std::string& t = tokens_[i];
+        if (starIsDropped(tokens_, i)) return;
+        write(t);
+        if (isMark(t, '|')) ++bars_;
+        const bool opens = isMark(t, '(') || (isMark(t, '|') && bars_ % 2 == 1);
+        if (!opens || startsWithSign(tokens_, i + 1)) return;
+        const std::string& next = tokens_[i + 1];
+        if (!next.empty() && !isMark(next, ')')) write(lenientValueOf(next) < 0 ? minus : plus);
+    }
+
+    // Of two operators in a row the second is not written: its slot keeps what stood there before
+    // the text moved to slot 1.
+    void write(const std::string& token) {
+        const bool isOperator = IsOperator(token);
+        ws.TokenBuffer.slot(next_) = behindOperator_ && isOperator ? tokens_[next_] : token;
+        behindOperator_ = isOperator;
+        ++next_;
+    }
+
+    inline static const std::string plus = "+";
+    inline static const std::string minus = "-";
+
+    const TokenArray& tokens_;
+    int next_ = 1;
+    int bars_ = 0;
+    bool behindOperator_ = false;
+};
 
 }  // namespace
 
 void NormaliseSigns() {
-    const Tokens tokens = withOuterSigns();
-    const Tokens out = withInnerSigns(tokens);
-    ws.TokenBuffer.clear();
-    for (std::size_t i = 1; i < out.size(); ++i) {
-        // Of two operators in a row the second is not written: its slot keeps what stood there
-        // before the text moved to slot 1.
-        const bool second = IsOperator(out[i - 1]) && IsOperator(out[i]);
-        ws.TokenBuffer.set(static_cast<int>(i), second ? at(tokens, i) : out[i]);
-    }
-    ws.TokenLast = static_cast<int>(out.size());
+    writeOuterSigns(ws.SpareTokens);
+    InnerSigns(ws.SpareTokens).run();
 }
 
 // --- CanonToTokens
@@ -268,7 +284,7 @@ void CanonToTokens() {
         ws.TokenBuffer.set(ws.TokenLast, token);
         ws.TokenLast += 1;
     };
-    if (ws.CanonTokens[4] != "-") write("+");
+    if (!isMark(ws.CanonTokens[4], '-')) write("+");
     for (int cell = 4; cell <= ws.CanonLast + 4; cell += 4) {
         const std::string& token = ws.CanonTokens[cell];
         if (token.empty()) continue;

@@ -25,6 +25,7 @@ std::string withoutHighlight(const std::string& line) {
 void dropOnes(const std::string& name, const std::string& fractionName) {
     std::string& note = ws.CurrentNote;
     if (name.empty() || !contains(note, name)) return;
+    if (!contains(note, "1" + name) && !contains(note, "1" + fractionName)) return;  // none of the patterns
     for (const char* front : {" ", "(", " -", "(-"}) note = replaced(note, front + ("1" + name), front + name);
     for (const char* front : {"#", "#-"}) note = replaced(note, front + ("1" + fractionName), front + name);
 }
@@ -56,12 +57,31 @@ void decide(const std::string& line, CommitOptions options) {
     if (!options.silent && !onlyHighlight && !isSuppressed(line)) recordStep(line);
 }
 
+// Merges and parses the tokens. Two commits of three bring a text that has just been parsed, as the
+// last rule wrote it or as the last commit left it: then the tokens are put back as that left them.
+void analyse() {
+    KnownText* place = &ws.CommitSources[1];
+    for (KnownText& source : ws.CommitSources) {
+        if (source.is(ws.TokenBuffer, ws.TokenLast, ws.CurrentSide)) {
+            ws.TokenBuffer = ws.StoreSource.tokens;
+            ws.TokenLast = ws.StoreSource.last;
+            return;
+        }
+        if (!source.isKnown()) place = &source;
+    }
+    const int last = ws.TokenLast;
+    place->remember(ws.TokenBuffer, last, ws.CurrentSide);
+    MergeNumbers();
+    ParseExpression();
+    // A new store has made all sources forgotten; this one is true again.
+    place->last = ws.StoreSource.isKnown() ? last : KnownText::unknown;
+}
+
 }  // namespace
 
 void CommitStep(CommitOptions options) {
-    MergeNumbers();
-    ParseExpression();
-    const std::string line = CanonicalLine();
+    analyse();
+    const std::string& line = CanonicalLine();
     const std::string first = ws.VarNames[1];
     dropOnes(first, first);
     dropOnes(ws.VarNames[2], first);

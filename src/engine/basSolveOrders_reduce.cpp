@@ -171,7 +171,7 @@ void choosePrePassNote(const std::string& text, const std::string& line) {
 
 // e.g. x^-2: "... (ex. x^-2^=#1/x^2^#)."
 std::string movedNote(const ExprTerm& term) {
-    const std::string& name = term.varName[1];
+    const std::string name(term.varName[1] == 0 ? 0 : 1, term.varName[1]);
     const float exponent = term.varExp[2];
     return "Remove the negative exponent by moving the term to the denominator (ex. " + name + "^" + textOf(exponent) +
            "^=#1/" + name + "^" + textOf(std::fabs(exponent)) + "^#).";

@@ -32,15 +32,21 @@ void resetTerms(TermSide& side) {
 
 }  // namespace
 
+bool isPastTheTables() {
+    for (int depth = 0; depth <= lastDepth; ++depth) {
+        if (ws.GroupTable[depth].lastGroup + groupMargin > lastTermGroup) return true;
+    }
+    return false;
+}
+
 void ResetStore(bool deep) {
+    const bool pastTheTables = isPastTheTables();
+    ws.StoreSource.forget();
+    for (KnownText& source : ws.CommitSources) source.forget();
     ws.MaxDepth = 0;
     ws.CurrentDepth = 0;
     ws.CurrentGroup = 0;
-    bool pastTheTables = false;
-    for (int depth = 0; depth <= lastDepth; ++depth) {
-        pastTheTables = pastTheTables || ws.GroupTable[depth].lastGroup + groupMargin > lastTermGroup;
-        resetLevel(depth);
-    }
+    for (int depth = 0; depth <= lastDepth; ++depth) resetLevel(depth);
     resetTerms(ws.TermTable[ws.CurrentSide]);
     if (pastTheTables && !deep) raise(FaultNumber::Subscript);
 }

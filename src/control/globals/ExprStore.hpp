@@ -12,6 +12,9 @@
 // Only the terms have a side: groups and counts describe the side that was parsed last, while the
 // terms of the other side stay readable until it is parsed again.
 //
+// StoreSource is what the store was made from. A text that is committed again, as most are, is found
+// in it and costs no parse.
+//
 // Read with brackets, ws.TermTable[side][depth][group][term]: a record that was never written reads
 // as a fresh one. Write through slot(). A subscript past a bound is fault 9 either way. Records are
 // made when they are first written, so the tables cost what the problem uses.
@@ -21,6 +24,7 @@
 #include "Int16.hpp"
 #include "SlotArray.hpp"
 
+#include <array>
 #include <string>
 
 namespace ordwise {
@@ -31,6 +35,30 @@ inline constexpr int lastTableGroup = 100;  // of GroupTable
 inline constexpr int lastTermGroup = 50;    // of TermTable and TermLast
 inline constexpr int lastTerm = 100;
 inline constexpr int lastVarSlot = 10;
+inline constexpr int lastToken = 2000;  // the highest slot of a token array
+
+using TokenArray = SlotArray<std::string, lastToken>;
+
+// The tokens that something was made from, to find out cheaply that it need not be made again:
+// comparing a text costs a hundredth of parsing it.
+struct KnownText {
+    static constexpr int unknown = -1;
+
+    TokenArray tokens;
+    int last = unknown;  // the TokenLast that belongs to them
+    int reading = 0;     // what else the maker went by: a side, a topic
+
+    [[nodiscard]] bool is(const TokenArray& now, int nowLast, int nowReading) const {
+        return last == nowLast && reading == nowReading && tokens == now;
+    }
+    void remember(const TokenArray& now, int nowLast, int nowReading) {
+        tokens = now;
+        last = nowLast;
+        reading = nowReading;
+    }
+    [[nodiscard]] bool isKnown() const { return last != unknown; }
+    void forget() { last = unknown; }
+};
 
 // A term: coefficient, letters above and letters below the fraction bar.
 //   e.g. -3x^2/4y  numerator -3, denominator 4, numText "x^2", denText "y"
@@ -44,8 +72,8 @@ struct ExprTerm {
     bool inDenominator = false;   // a "/" was read and what follows belongs under it
     bool hasFractionBar = false;  // a "/" stood directly behind letters or a number of this term
     Int16 nextVar = 1;            // the next free slot of varName
-    // The letters in order of appearance, from slot 1.
-    BoundedArray<std::string, lastVarSlot> varName;
+    // The letters in order of appearance, from slot 1; 0 in a slot that holds none.
+    BoundedArray<char, lastVarSlot> varName;
     // An exponent stands one slot behind its letter until the next letter comes, and that of a bare
     // number in slot 1; numText is the field to read exponents from.
     BoundedArray<float, lastVarSlot> varExp = firstExponents();
@@ -104,11 +132,21 @@ struct ExprStore {
     Int16 CurrentSide;
     Int16 CurrentDepth;  // where the parse stands or ended
     Int16 CurrentGroup;
+
+    // The tokens and the side that the last parse has read. Forgotten by a reset, so by a parse that
+    // faults, and not remembered by one that leaves the store past its tables.
+    KnownText StoreSource;
+    // The texts that CommitStep has merged and parsed into just this store: as a rule wrote it, and as
+    // the commit left it. Forgotten with StoreSource.
+    std::array<KnownText, 2> CommitSources;
 };
 
-// Empties groups and counts, and the terms of CurrentSide. Shallow at the start of each parse: then
-// a depth whose lastGroup is above 45 is fault 9, raised when all is empty, so that the next
-// problem finds a clean store. Deep at the reset of a problem, and never faults.
+// A depth whose lastGroup is above 45: the reset before the next parse is fault 9.
+[[nodiscard]] bool isPastTheTables();
+
+// Empties groups, counts and StoreSource, and the terms of CurrentSide. Shallow at the start of each parse: then
+// a store past its tables is fault 9, raised when all is empty, so that the next problem finds a
+// clean store. Deep at the reset of a problem, and never faults.
 void ResetStore(bool deep);
 
 }  // namespace ordwise

@@ -20,13 +20,10 @@
 
 namespace ordwise {
 
-inline constexpr int lastToken = 2000;    // the highest slot of a token array
 inline constexpr int lastStep = 200;      // the highest step
 inline constexpr int lastTestLine = 200;  // the highest line of a practice test
 inline constexpr int lastLevel = 20;      // the deepest parenthesis
 inline constexpr int noStepClass = 99;    // StepClassOf a step that CommitStep has not recorded
-
-using TokenArray = SlotArray<std::string, lastToken>;
 
 // What the student has chosen. Written by TreeViewSelect only; outlives Erase.
 struct ProblemIdentity {
@@ -49,6 +46,8 @@ struct TypedInput {
     Int16 CanonLast;         // the number of cells, and after a RewritePass the slot behind the last
     TokenArray CanonIn;      // spaced copy that the rewrite reads, a cell every fourth slot
     TokenArray CanonOut;     // spaced result, with the gaps in which closing marks are put
+    KnownText CanonSource;   // while CanonTokens hold a line of the engine: what it was made from
+    std::string CanonLine;   // and its text
     Int16 CanonWrite;        // write position in CanonOut
     BoundedArray<Int16, lastLevel> CanonGroupStart;  // by level: where its current term began
     bool CanonFractionOpen = false;                  // a fraction mark is open in the rewrite
@@ -90,6 +89,7 @@ struct Steps {
 struct ExpressionEngine : ExprStore {
     TokenArray TokenBuffer;  // the text, one token a slot; the master of the store
     Int16 TokenLast;
+    TokenArray SpareTokens;        // what a merge or a normalisation writes before the two change places
     bool ReductionStable = false;  // the last commit changed nothing
     bool KeepReducing = false;     // a rule's rewrite must not end the chain
     Int16 StepClass;               // the class that the next recorded step takes

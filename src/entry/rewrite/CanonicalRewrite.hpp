@@ -41,6 +41,8 @@ void RewritePass();
 // The markup of the engine's text in TokenBuffer; it leaves the cells in CanonTokens. What the
 // engine needs and a student does not write is left out: a leading "+", a 1 before a letter, an
 // exponent 1. e.g. "+","1","x","^","2","+","3" -> "x^2^+3"
-[[nodiscard]] std::string CanonicalLine();
+// A text whose line is still in CanonTokens is not written again. The reference holds until the next
+// call.
+[[nodiscard]] const std::string& CanonicalLine();
 
 }  // namespace ordwise

@@ -69,6 +69,7 @@ void GroupInput() {
     }
 
     ws.CanonTokens.clear();
+    ws.CanonSource.forget();
     int slot = 0;
     for (std::string& cell : std::move(grouping).cells()) ws.CanonTokens.set(++slot, std::move(cell));
     ws.CanonLast = slot;

@@ -12,72 +12,84 @@ namespace ordwise {
 
 namespace {
 
+// Writes the cells of a line into CanonTokens, from slot 1.
 class LineCells {
 public:
+    LineCells() { ws.CanonTokens.clear(); }
+
     void add(const std::string& before, const std::string& token, const std::string& after) {
-        if (token == "|") ++bars_;
         if (token.empty()) return;
-        if (token == "1" && before == "^") {  // e.g. x^1 is written x
-            if (!cells_.empty()) cells_.pop_back();
-            return;
+        if (isMark(token, '|')) ++bars_;
+        if (isMark(token, '1')) {
+            if (isMark(before, '^')) {  // e.g. x^1 is written x
+                if (count_ > 0) --count_;
+                return;
+            }
+            if (IsLetter(after) && !isNegativeExponent()) return;  // e.g. 1x is written x
         }
-        if (token == "1" && IsLetter(after) && !isNegativeExponent()) return;  // e.g. 1x is written x
-        if (token == "+" && startsTerms()) return;                             // e.g. (+3 is written (3
-        if (!splitRoot(token)) cells_.push_back(token);
+        if (isMark(token, '+') && startsTerms()) return;  // e.g. (+3 is written (3
+        if (!splitRoot(token)) write(token);
     }
 
-    [[nodiscard]] std::vector<std::string> cells() && { return std::move(cells_); }
+    // Their number.
+    [[nodiscard]] int close() {
+        ws.CanonTokens.clear(count_ + 1, ws.CanonTokens.used() - 1);
+        return count_;
+    }
 
 private:
+    void write(std::string_view cell) { ws.CanonTokens.slot(++count_) = cell; }
+    // The cell written `back` before the last one; slot 0 is empty.
+    [[nodiscard]] const std::string& written(int back) const { return ws.CanonTokens[std::max(count_ - back, 0)]; }
+
     // The next cell is the first of the line, of a side, of a parenthesis or between bars.
     [[nodiscard]] bool startsTerms() const {
-        if (cells_.empty()) return true;
-        const std::string& last = cells_.back();
-        return last == "=" || last == "(" || (last == "|" && bars_ % 2 == 1);
+        const std::string& last = written(0);
+        return last.empty() || isMark(last, '=') || isMark(last, '(') || (isMark(last, '|') && bars_ % 2 == 1);
     }
 
     // The next cell stands behind "^-": a 1 there is the exponent and no coefficient.
-    [[nodiscard]] bool isNegativeExponent() const {
-        const std::size_t count = cells_.size();
-        return count >= 2 && cells_[count - 1] == "-" && cells_[count - 2] == "^";
-    }
+    [[nodiscard]] bool isNegativeExponent() const { return isMark(written(0), '-') && isMark(written(1), '^'); }
 
     // A root token is coefficient and radicand in one. e.g. "3~5" -> "3", "~", "5"
     bool splitRoot(std::string_view token) {
         const std::size_t sign = token.find('~');
         if (sign == std::string_view::npos) return false;
         for (const std::string_view part : {token.substr(0, sign), std::string_view("~"), token.substr(sign + 1)}) {
-            if (!part.empty()) cells_.emplace_back(part);
+            if (!part.empty()) write(part);
         }
         return true;
     }
 
-    std::vector<std::string> cells_;
+    int count_ = 0;
     int bars_ = 0;
 };
 
+// The marks in the gaps and the cells; the slots between are empty.
 std::string joinedCells() {
     std::string line;
     const int end = std::min<int>(ws.CanonLast, ws.CanonTokens.used() - 1);
-    for (int i = 0; i <= end; ++i) line += ws.CanonTokens[i];
+    for (int i = 0; i <= end; ++i) {
+        if (!ws.CanonTokens[i].empty()) line += ws.CanonTokens[i];
+    }
     return line;
 }
 
 }  // namespace
 
-std::string CanonicalLine() {
+const std::string& CanonicalLine() {
+    // The topic decides what a bar between fractions is.
+    if (ws.CanonSource.is(ws.TokenBuffer, ws.TokenLast, ws.ProblemType)) return ws.CanonLine;
     static const std::string none;
     LineCells line;
     for (int i = 0; i <= ws.TokenLast + 1; ++i) {
         line.add(i > 0 ? ws.TokenBuffer[i - 1] : none, ws.TokenBuffer[i], i < lastToken ? ws.TokenBuffer[i + 1] : none);
     }
-
-    ws.CanonTokens.clear();
-    int slot = 0;
-    for (std::string& cell : std::move(line).cells()) ws.CanonTokens.set(++slot, std::move(cell));
-    ws.CanonLast = slot;
+    ws.CanonLast = line.close();
     rewriteCells();
-    return joinedCells();
+    ws.CanonLine = joinedCells();
+    ws.CanonSource.remember(ws.TokenBuffer, ws.TokenLast, ws.ProblemType);
+    return ws.CanonLine;
 }
 
 std::string RewriteAll() {

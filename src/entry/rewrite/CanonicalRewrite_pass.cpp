@@ -144,7 +144,7 @@ void Walk::fractionCell() {
     if (IsLetter(*n_)) {
         bool raised = false;
         for (; !n_->empty() && !IsOperator(*n_); n_ = &ws.CanonIn[i_ + 4]) {
-            raised = raised || *n_ == "^";
+            raised = raised || isMark(*n_, '^');
             write(*n_);
             i_ += 4;
         }
@@ -155,7 +155,7 @@ void Walk::fractionCell() {
 
 // Straight behind the mark a sign belongs to the exponent. e.g. x^-2 -> x^-2^
 void Walk::signOrEquals() {
-    if (expOpen_ && *p_ == "^") {
+    if (expOpen_ && isMark(*p_, '^')) {
         copy();
         return;
     }
@@ -175,9 +175,9 @@ void Walk::rootSign() {
 }
 
 void Walk::openParenthesis() {
-    const bool directlyUnderBar = ws.CanonOut[w() - 4] == "/";
+    const bool directlyUnderBar = isMark(ws.CanonOut[w() - 4], '/');
     closeExponent();
-    if (*p_ != "~") closeRoot();
+    if (!isMark(*p_, '~')) closeRoot();
     if (!directlyUnderBar && fractionEnds()) closeFraction();
     level_ += 1;
     beginTerm(w());
@@ -195,7 +195,7 @@ void Walk::closeParenthesis() {
         copy();
         closeFraction();
         openedInFraction = false;
-        if (*n_ == "(") {  // two factors, one of them under the bar, keep their product
+        if (isMark(*n_, '(')) {  // two factors, one of them under the bar, keep their product
             beginTerm(w());
             write("*");
         }
@@ -222,7 +222,7 @@ void Walk::bar() {
     }
     // A numeric fraction in the new numerator stops being one of its own.
     for (int slot = termStart + 4; slot <= w(); ++slot) {
-        if (ws.CanonOut[slot] == "#") ws.CanonOut.set(slot, "");
+        if (isMark(ws.CanonOut[slot], '#')) ws.CanonOut.set(slot, "");
     }
 }
 
@@ -248,7 +248,7 @@ void Walk::star() {
 
 void Walk::highlight() {
     closeExponent();
-    if (*c_ != "[" || *p_ != "/") closeFraction();
+    if (!isMark(*c_, '[') || !isMark(*p_, '/')) closeFraction();
     copy();
 }
 
@@ -261,37 +261,45 @@ void Walk::absoluteBar() {
 
 // A letter, a 1, a separator. A 1 may still be an exponent; a 1 before a root is not written.
 void Walk::plain() {
-    if (*c_ == ",") ++commas_;
-    if (expOpen_ && *c_ == "1") {
+    if (isMark(*c_, ',')) ++commas_;
+    if (expOpen_ && isMark(*c_, '1')) {
         copy();
         closeExponent();
         return;
     }
     closeExponent();
-    if (*c_ == "1" && *n_ == "~") return;
+    if (isMark(*c_, '1') && isMark(*n_, '~')) return;
     copy();
 }
 
 void Walk::cell() {
     const std::string& c = *c_;
-    if (c == "^" || c == "?") return exponentMark();
-    if (IsFractionToken(c)) return fractionCell();
-    if (IsSign(c) || c == "=") return signOrEquals();
-    if (c == "~") return rootSign();
-    if (c == "(") return openParenthesis();
-    if (c != "1" && IsNumeric(c)) return copy();  // it stays in an open exponent or root
-    if (c == "/") return bar();
-    if (c == ")") return closeParenthesis();
-    if (c == "#") return copy();
-    if (c == "*") return star();
-    if (c == "[" || c == "]") return highlight();
-    if (c == "|") return absoluteBar();
-    plain();
+    if (c.size() > 1) {
+        if (IsFractionToken(c)) return fractionCell();
+        return IsNumeric(c) ? copy() : plain();
+    }
+    switch (c[0]) {
+        case '^':
+        case '?': return exponentMark();
+        case '+':
+        case '-':
+        case '=': return signOrEquals();
+        case '~': return rootSign();
+        case '(': return openParenthesis();
+        case ')': return closeParenthesis();
+        case '/': return bar();
+        case '*': return star();
+        case '[':
+        case ']': return highlight();
+        case '|': return absoluteBar();
+        case '#': return copy();
+        default: return c != "1" && IsNumeric(c) ? copy() : plain();  // a number stays in an open exponent or root
+    }
 }
 
 // An exponent without a digit shows a question mark for what is still to be typed.
 void Walk::closeAll() {
-    const bool exponentMissing = expOpen_ && ws.CanonOut[w() - 4] == "^";
+    const bool exponentMissing = expOpen_ && isMark(ws.CanonOut[w() - 4], '^');
     closeExponent();
     if (exponentMissing) mark(1, "?^");
     closeRoot();
@@ -300,6 +308,7 @@ void Walk::closeAll() {
 
 RewriteFacts Walk::run() {
     const int cells = spreadCells();
+    ws.CanonSource.forget();
     ws.CanonOut.clear();
     ws.CanonWrite = 4;
     ws.CanonGroupStart[0] = 0;
