@@ -1,7 +1,7 @@
 // Reading requests from JSON: every field may be missing, wrong or of another type.
-#include "Requests.hpp"
-
+#include "JsonText.hpp"
 #include "NumberText.hpp"
+#include "Requests.hpp"
 
 #include <exception>
 #include <functional>
@@ -89,29 +89,43 @@ ExampleRequest exampleRequest(const nlohmann::json& request) {
     return result;
 }
 
-Json dispatch(const nlohmann::json& request) {
+std::string dispatch(const nlohmann::json& request) {
     if (!request.is_object()) throw BadRequest("A request must be a JSON object.");
     const std::string op = textMember(request, "op", true);
-    if (op == "solve") return answerSolve(solveRequest(request));
-    if (op == "keys") return answerKeys({textMember(request, "topic", true), textMember(request, "text", true)});
-    if (op == "example") return answerExample(exampleRequest(request));
+    if (op == "solve") return solveAnswer(solveRequest(request));
+    if (op == "keys") return keysAnswer({textMember(request, "topic", true), textMember(request, "text", true)});
+    if (op == "example") return exampleAnswer(exampleRequest(request));
     throw BadRequest("There is no op \"" + op + "\"; it is solve, keys or example.");
+}
+
+AnswerText errorAnswer(const char* sentence) {
+    JsonText answer;
+    answer.object([&] { answer.member("error").string(sentence); });
+    return {std::move(answer).take(), true};
 }
 
 }  // namespace
 
-Json answerRequest(const nlohmann::json& request) {
+AnswerText answerTextOf(const nlohmann::json& request) {
     try {
-        return dispatch(request);
+        return {dispatch(request)};
     } catch (const std::exception& trouble) {
-        return Json{{"error", trouble.what()}};
+        return errorAnswer(trouble.what());
     }
 }
 
-Json answerLine(const std::string& line) {
+AnswerText answerTextOfLine(const std::string& line) {
     const nlohmann::json request = nlohmann::json::parse(line, nullptr, false);
-    if (request.is_discarded()) return Json{{"error", "The line is no valid JSON."}};
-    return answerRequest(request);
+    if (request.is_discarded()) return errorAnswer("The line is no valid JSON.");
+    return answerTextOf(request);
+}
+
+Json answerRequest(const nlohmann::json& request) {
+    return Json::parse(answerTextOf(request).text);
+}
+
+Json answerLine(const std::string& line) {
+    return Json::parse(answerTextOfLine(line).text);
 }
 
 }  // namespace ordwise

@@ -185,9 +185,11 @@ int runBatch(std::istream& in, std::ostream& out, std::ostream& err) {
     long answered = 0;
     for (std::string line; std::getline(in, line);) {
         if (line.empty()) continue;
-        const Json answer = answerLine(line);
-        if (answer.contains("error")) status = exitUnreadable;
-        out << dumped(answer) << '\n';
+        const AnswerText answer = answerTextOfLine(line);
+        if (answer.isError) status = exitUnreadable;
+        out << answer.text << '\n';
+        // Whoever waits for an answer before he asks on gets it at once; a long file is written in blocks.
+        if (in.rdbuf()->in_avail() <= 0) out.flush();
         if (progress && ++answered % progressEvery == 0) err << '\r' << answered << " requests answered" << std::flush;
     }
     if (progress && answered >= progressEvery) err << '\n';

@@ -7,6 +7,7 @@
 #include "FlatProblem.hpp"
 #include "FreshProgram.hpp"
 #include "GuidedInput.hpp"
+#include "JsonText.hpp"
 #include "NearestNames.hpp"
 #include "NumberText.hpp"
 #include "PlainPlatform.hpp"
@@ -69,17 +70,13 @@ KeyResult press(const std::string& key) {
     }
 }
 
-Json refusal(int at, const std::string& key, const std::string& reason) {
-    return Json{{"at", at}, {"key", key}, {"reason", reason}};
-}
-
 // Types the problem; a refused key ends it unless refused keys are to be dropped.
-Json typeProblem(const SolveRequest& request) {
-    Json refused = Json::array();
+std::vector<RefusedKey> typeProblem(const SolveRequest& request) {
+    std::vector<RefusedKey> refused;
     for (const ProblemKey& typed : keysOf(request.problem)) {
         const KeyResult result = press(typed.key);
         if (result.accepted) continue;
-        refused.push_back(refusal(typed.at, typed.key, result.reason));
+        refused.push_back({typed.at, typed.key, result.reason});
         if (!request.dropRefused) break;
     }
     return refused;
@@ -99,85 +96,114 @@ void selectCombos(const std::map<int, int>& combos) {
 }
 
 // Fills the boxes through their key rule; the first text that a box refuses ends it.
-Json fillBoxes(const std::map<int, std::string>& boxes) {
-    Json refused = Json::array();
+void fillBoxes(const std::map<int, std::string>& boxes, std::vector<RefusedKey>& refused) {
     for (const auto& [number, content] : boxes) {
         const std::string name = "Text" + textOf(number);
         if (number < 1 || number > 6) throw BadRequest("There is no " + name + "; the boxes are Text1 to Text6.");
         if (!frmPaper.box(number).Visible) throw BadRequest("\"" + ws.TopicName + "\" has no " + name + ".");
         if (typeIntoBox(number, content)) continue;
         const int at = static_cast<int>(frmPaper.box(number).Text.size());
-        refused.push_back(refusal(at, characters(content)[static_cast<std::size_t>(at)], ws.ExplainOverrideText));
+        refused.push_back({at, characters(content)[static_cast<std::size_t>(at)], ws.ExplainOverrideText});
         break;
     }
-    return refused;
 }
 
-Json stepsTaken() {
-    Json steps = Json::array();
-    const auto add = [&](int i) {
-        steps.push_back(Json{{"index", i}, {"line", ws.StepLines[i]}, {"note", ws.StepNotes[i]}});
-    };
-    for (int i = 1; i < ws.StepCount; ++i) add(i);
-    // A thinned solution of one step ends one short of its line.
-    if (ws.StepCount <= lastStep && !ws.StepLines[ws.StepCount].empty()) add(ws.StepCount);
-    return steps;
-}
+// --- the parts of an answer
 
-Json graphHandedOver() {
-    switch (static_cast<int>(ws.GraphKind)) {
-        case 1: return Json{{"kind", 1}, {"x1", ws.GraphX1}, {"y1", ws.GraphY1}};
-        case 2:
-            return Json{{"kind", 2}, {"x1", ws.GraphX1}, {"y1", ws.GraphY1}, {"x2", ws.GraphX2}, {"y2", ws.GraphY2}};
-        case 3: {
-            Json values = Json::array();
-            for (int i = 0; i < ws.GraphValues.used(); ++i) values.push_back(ws.GraphValues[i]);
-            return Json{{"kind", 3}, {"values", values}};
+void writeRefused(JsonText& answer, const std::vector<RefusedKey>& refused) {
+    answer.member("refused").array([&] {
+        for (const RefusedKey& key : refused) {
+            answer.object([&] {
+                answer.member("at").number(key.at);
+                answer.member("key").string(key.key);
+                answer.member("reason").string(key.reason);
+            });
         }
-        default: return nullptr;
-    }
+    });
 }
 
-Json messagesShown(const PlainPlatform& outside) {
-    Json messages = Json::array();
-    for (const ShownMessage& m : outside.dialogs.messages)
-        messages.push_back(Json{{"caption", m.caption}, {"text", m.text}});
-    return messages;
+void writeBoxes(JsonText& answer) {
+    answer.member("boxes").array([&] {
+        for (int number = 1; number <= 6; ++number) answer.string(frmPaper.box(number).Text);
+    });
+    answer.member("combos").array([&] {
+        for (int number = 1; number <= 3; ++number) answer.number(frmPaper.combo(number).ListIndex);
+    });
 }
 
-Json promptsShown(const PlainPlatform& outside) {
-    Json prompts = Json::array();
-    for (const ShownPrompt& p : outside.dialogs.prompts)
-        prompts.push_back(Json{{"caption", p.caption}, {"text", p.text}, {"answer", p.answer}});
-    return prompts;
+// The worksheet as it stands.
+void writeWorksheet(JsonText& answer, const std::string& markup, const std::vector<RefusedKey>& refused,
+                    bool canSolve) {
+    answer.member("topic").string(ws.TopicName);
+    answer.member("type").number(ws.ProblemType);
+    answer.member("typed").string(ImplodeInput());
+    answer.member("markup").string(markup);
+    writeRefused(answer, refused);
+    answer.member("canSolve").flag(canSolve);
+    writeBoxes(answer);
 }
 
-Json boxesAsTheyStand() {
-    Json boxes = Json::array();
-    for (int number = 1; number <= 6; ++number) boxes.push_back(frmPaper.box(number).Text);
-    return boxes;
+void writeSteps(JsonText& answer, bool run) {
+    const auto add = [&](int i) {
+        answer.object([&] {
+            answer.member("index").number(i);
+            answer.member("line").string(ws.StepLines[i]);
+            answer.member("note").string(ws.StepNotes[i]);
+        });
+    };
+    answer.member("steps").array([&] {
+        if (!run) return;
+        for (int i = 1; i < ws.StepCount; ++i) add(i);
+        // A thinned solution of one step ends one short of its line.
+        if (ws.StepCount <= lastStep && !ws.StepLines[ws.StepCount].empty()) add(ws.StepCount);
+    });
 }
 
-Json combosAsTheyStand() {
-    Json combos = Json::array();
-    for (int number = 1; number <= 3; ++number) combos.push_back(frmPaper.combo(number).ListIndex);
-    return combos;
+void writeDialogs(JsonText& answer, const PlainPlatform& outside) {
+    answer.member("messages").array([&] {
+        for (const ShownMessage& message : outside.dialogs.messages) {
+            answer.object([&] {
+                answer.member("caption").string(message.caption);
+                answer.member("text").string(message.text);
+            });
+        }
+    });
+    answer.member("prompts").array([&] {
+        for (const ShownPrompt& prompt : outside.dialogs.prompts) {
+            answer.object([&] {
+                answer.member("caption").string(prompt.caption);
+                answer.member("text").string(prompt.text);
+                answer.member("answer").string(prompt.answer);
+            });
+        }
+    });
 }
 
-// What stands on the worksheet, and its solution if `run`: the object of every command that solves.
-Json worksheetAnswer(const Json& refused, bool canSolve, bool run, const PlainPlatform& outside) {
-    return Json{{"topic", ws.TopicName},
-                {"type", static_cast<int>(ws.ProblemType)},
-                {"typed", ImplodeInput()},
-                {"markup", ImplodeCanon()},
-                {"refused", refused},
-                {"canSolve", canSolve},
-                {"boxes", boxesAsTheyStand()},
-                {"combos", combosAsTheyStand()},
-                {"steps", run ? stepsTaken() : Json::array()},
-                {"messages", messagesShown(outside)},
-                {"prompts", promptsShown(outside)},
-                {"graph", run ? graphHandedOver() : Json(nullptr)}};
+// What was handed over to the graph window; nothing without a run.
+void writeGraph(JsonText& answer, bool run) {
+    answer.member("graph");
+    const int kind = run ? static_cast<int>(ws.GraphKind) : 0;
+    if (kind < 1 || kind > 3) return answer.null();
+    answer.object([&] {
+        answer.member("kind").number(kind);
+        if (kind == 3) {
+            answer.member("values").array([&] {
+                for (int i = 0; i < ws.GraphValues.used(); ++i) answer.string(ws.GraphValues[i]);
+            });
+            return;
+        }
+        answer.member("x1").number(ws.GraphX1);
+        answer.member("y1").number(ws.GraphY1);
+        if (kind == 1) return;
+        answer.member("x2").number(ws.GraphX2);
+        answer.member("y2").number(ws.GraphY2);
+    });
+}
+
+void writeSolution(JsonText& answer, bool run, const PlainPlatform& outside) {
+    writeSteps(answer, run);
+    writeDialogs(answer, outside);
+    writeGraph(answer, run);
 }
 
 // Runs what may solve a problem.
@@ -212,7 +238,7 @@ std::string markupOfInput() {
 
 }  // namespace
 
-Json answerSolve(const SolveRequest& request) {
+std::string solveAnswer(const SolveRequest& request) {
     PlainPlatform outside;
     outside.dialogs.answers.assign(request.answers.begin(), request.answers.end());
     openWorksheet(request.topic, request.settings);
@@ -220,41 +246,43 @@ Json answerSolve(const SolveRequest& request) {
         throw BadRequest("\"" + request.topic +
                          "\" takes its numbers in boxes (--box N=TEXT), not as a typed problem.");
     selectCombos(request.combos);
-    Json refused = typeProblem(request);
-    for (Json& box : fillBoxes(request.boxes)) refused.push_back(std::move(box));
+    std::vector<RefusedKey> refused = typeProblem(request);
+    fillBoxes(request.boxes, refused);
 
     const bool canSolve = solveEnabled();
     const bool run = canSolve && (refused.empty() || request.dropRefused);
-    // As it stands before the run: a solve may rewrite boxes and engine text.
-    Json answer = worksheetAnswer(refused, canSolve, false, outside);
-    if (run) {
-        withAnswers(compute_Click);
-        if (!request.saveTo.empty()) saveProblem(request.saveTo);
-    }
-    answer["steps"] = run ? stepsTaken() : Json::array();
-    answer["messages"] = messagesShown(outside);
-    answer["prompts"] = promptsShown(outside);
-    answer["graph"] = run ? graphHandedOver() : Json(nullptr);
-    return answer;
+    JsonText answer;
+    answer.object([&] {
+        // As it stands before the run: a solve may rewrite boxes and engine text.
+        writeWorksheet(answer, ImplodeCanon(), refused, canSolve);
+        if (run) {
+            withAnswers(compute_Click);
+            if (!request.saveTo.empty()) saveProblem(request.saveTo);
+        }
+        writeSolution(answer, run, outside);
+    });
+    return std::move(answer).take();
 }
 
-Json answerLoad(const LoadRequest& request) {
+std::string loadAnswer(const LoadRequest& request) {
     PlainPlatform outside;
     UnseenWindows windows;
     platform.windows = &windows;
     outside.dialogs.answers.assign(request.answers.begin(), request.answers.end());
     startProgram(request.settings);
     const SavedProblem problem = problemInFile(request.file);
-    Json refused = Json::array();
-    const std::vector<RefusedKey> keys = withAnswers([&] { return openProblem(problem); });
-    for (const RefusedKey& key : keys) refused.push_back(refusal(key.at, key.key, key.reason));
+    const std::vector<RefusedKey> refused = withAnswers([&] { return openProblem(problem); });
     const bool run = !ws.InputOpen;
-    Json answer = worksheetAnswer(refused, run || solveEnabled(), run, outside);
-    answer["markup"] = markupOfInput();
-    return answer;
+    const bool canSolve = run || solveEnabled();
+    JsonText answer;
+    answer.object([&] {
+        writeWorksheet(answer, markupOfInput(), refused, canSolve);
+        writeSolution(answer, run, outside);
+    });
+    return std::move(answer).take();
 }
 
-Json answerExample(const ExampleRequest& request) {
+std::string exampleAnswer(const ExampleRequest& request) {
     PlainPlatform outside;
     openWorksheet(request.topic, request.settings);
     if (request.complex) ws.ComplexExamples = complexLevel;
@@ -263,9 +291,52 @@ Json answerExample(const ExampleRequest& request) {
     for (int letter = 0; letter < ws.EquationMode; ++letter) outside.dialogs.answers.push_back(textOf(RandInt2to9()));
     example_Click();
     const bool run = !ws.InputOpen;
-    Json answer = worksheetAnswer(Json::array(), run, run, outside);
-    answer["markup"] = markupOfInput();
-    return answer;
+    JsonText answer;
+    answer.object([&] {
+        writeWorksheet(answer, markupOfInput(), {}, run);
+        writeSolution(answer, run, outside);
+    });
+    return std::move(answer).take();
+}
+
+std::string keysAnswer(const KeysRequest& request) {
+    PlainPlatform outside;
+    openWorksheet(request.topic, {});
+    JsonText answer;
+    answer.object([&] {
+        answer.member("topic").string(request.topic);
+        answer.member("type").number(ws.ProblemType);
+        answer.member("keys").array([&] {
+            for (const std::string& key : characters(request.text)) {
+                const KeyResult result = press(key);
+                answer.object([&] {
+                    answer.member("key").string(key);
+                    answer.member("accepted").flag(result.accepted);
+                    answer.member("reason").string(result.reason);
+                    answer.member("typed").string(ImplodeInput());
+                    answer.member("markup").string(ImplodeCanon());
+                    answer.member("canSolve").flag(solveEnabled());
+                });
+            }
+        });
+    });
+    return std::move(answer).take();
+}
+
+Json answerSolve(const SolveRequest& request) {
+    return Json::parse(solveAnswer(request));
+}
+
+Json answerLoad(const LoadRequest& request) {
+    return Json::parse(loadAnswer(request));
+}
+
+Json answerExample(const ExampleRequest& request) {
+    return Json::parse(exampleAnswer(request));
+}
+
+Json answerKeys(const KeysRequest& request) {
+    return Json::parse(keysAnswer(request));
 }
 
 std::uint64_t freshSeed() {
@@ -276,22 +347,6 @@ std::uint64_t freshSeed() {
 bool wasSolved(const Json& answer) {
     return answer.at("canSolve").get<bool>() && answer.at("messages").empty() &&
            !(answer.at("steps").empty() && answer.at("graph").is_null());
-}
-
-Json answerKeys(const KeysRequest& request) {
-    PlainPlatform outside;
-    openWorksheet(request.topic, {});
-    Json keys = Json::array();
-    for (const std::string& key : characters(request.text)) {
-        const KeyResult result = press(key);
-        keys.push_back(Json{{"key", key},
-                            {"accepted", result.accepted},
-                            {"reason", result.reason},
-                            {"typed", ImplodeInput()},
-                            {"markup", ImplodeCanon()},
-                            {"canSolve", solveEnabled()}});
-    }
-    return Json{{"topic", request.topic}, {"type", static_cast<int>(ws.ProblemType)}, {"keys", keys}};
 }
 
 Json answerTopics() {

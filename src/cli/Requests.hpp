@@ -65,9 +65,14 @@ struct ExampleRequest {
 // A seed for a request that names none, different from the ones before. Small enough to be typed.
 [[nodiscard]] std::uint64_t freshSeed();
 
-// The answers as JSON objects, keys in the documented order. They throw BadRequest for an unknown
-// topic (naming the nearest ones), a box, combo or setting that there is not and a file that cannot be
-// read or written, and AnswersUsedUp.
+// The answers as JSON text, keys in the documented order. They throw BadRequest for an unknown topic
+// (naming the nearest ones), a box, combo or setting that there is not and a file that cannot be read
+// or written, and AnswersUsedUp.
+[[nodiscard]] std::string solveAnswer(const SolveRequest& request);
+[[nodiscard]] std::string loadAnswer(const LoadRequest& request);
+[[nodiscard]] std::string exampleAnswer(const ExampleRequest& request);
+[[nodiscard]] std::string keysAnswer(const KeysRequest& request);
+// The same as objects, for whoever reads in them.
 [[nodiscard]] nlohmann::ordered_json answerSolve(const SolveRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerLoad(const LoadRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerExample(const ExampleRequest& request);
@@ -80,7 +85,14 @@ struct ExampleRequest {
 // A request of a batch: {"op": "solve", "keys" or "example", "topic": ..., ...}. Never throws for bad input:
 // a request that cannot be read is answered with {"error": "..."}.
 [[nodiscard]] nlohmann::ordered_json answerRequest(const nlohmann::json& request);
+// The same as text, and whether it is an error.
+struct AnswerText {
+    std::string text;
+    bool isError = false;
+};
+[[nodiscard]] AnswerText answerTextOf(const nlohmann::json& request);
 // The same for one line of text.
+[[nodiscard]] AnswerText answerTextOfLine(const std::string& line);
 [[nodiscard]] nlohmann::ordered_json answerLine(const std::string& line);
 
 // Whether a solve came to its end: no key or box refused, Solve enabled, no message box.

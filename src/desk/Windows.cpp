@@ -79,18 +79,29 @@ void setSolveEnabled(bool enabled) {
     frmMain.mnuSolve.Enabled = enabled;
 }
 
+namespace {
+
+// Assigning keeps the memory of texts and drawings, which the next problem will need again.
+template <class Window>
+void restart(Window& window) {
+    static const Window asStarted;
+    window = asStarted;
+}
+
+}  // namespace
+
 void ResetWindows() {
-    frmMain = MainWindow{};
-    frmPaper = PaperWindow{};
-    frmGraph = GraphWindow{};
-    graphSettings = GraphSettings{};
-    frmPrintSetup = PrintSetupWindow{};
-    frmPrintPreview = PrintPreviewWindow{};
-    frmLogo = LogoWindow{};
-    frmOptions = OptionsWindow{};
-    frmPracticeTest = PracticeTestWindow{};
-    frmAbout = AboutWindow{};
-    frmHelp = HelpWindow{};
+    restart(frmMain);
+    restart(frmPaper);
+    restart(frmGraph);
+    restart(graphSettings);
+    restart(frmPrintSetup);
+    restart(frmPrintPreview);
+    restart(frmLogo);
+    restart(frmOptions);
+    restart(frmPracticeTest);
+    restart(frmAbout);
+    restart(frmHelp);
 }
 
 }  // namespace ordwise

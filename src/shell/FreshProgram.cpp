@@ -7,7 +7,9 @@
 namespace ordwise {
 
 void startFreshProgram() {
-    ws = Workspace{};
+    // Assigning keeps the memory of texts and arrays, which the next problem will need again.
+    static const Workspace asStarted;
+    ws = asStarted;
     ResetWindows();
     unseedDraws();
 }
