@@ -43,19 +43,26 @@ double DrawingSurface::TextHeight() const {
 bool DrawingSurface::continues(const Glyphs& run) const {
     constexpr double joint = 1e-6;
     return run.face == FontFace && run.size == FontSize && run.colour == ForeColor &&
-           std::abs(run.y - down(CurrentY)) < joint &&
-           std::abs(run.x + textWidth(run.face, run.text, run.size) - across(CurrentX)) < joint;
+           std::abs(run.y - down(CurrentY)) < joint && std::abs(runEnd_ - across(CurrentX)) < joint;
+}
+
+// `width` in units of the drawing.
+void DrawingSurface::addText(std::string_view text, double width) {
+    Glyphs* run = drawn_.empty() ? nullptr : std::get_if<Glyphs>(&drawn_.back());
+    if (run != nullptr && continues(*run)) {
+        run->text += text;
+        runEnd_ += width;
+    } else if (text.find_first_not_of(' ') != std::string_view::npos) {  // blanks alone draw nothing
+        drawn_.push_back(Glyphs{std::string(text), across(CurrentX), down(CurrentY), FontFace, FontSize, ForeColor});
+        runEnd_ = across(CurrentX) + width;
+    }
 }
 
 void DrawingSurface::print(std::string_view text) {
     if (text.empty()) return;
-    Glyphs* run = drawn_.empty() ? nullptr : std::get_if<Glyphs>(&drawn_.back());
-    if (run != nullptr && continues(*run)) {
-        run->text += text;
-    } else if (text.find_first_not_of(' ') != std::string_view::npos) {  // blanks alone draw nothing
-        drawn_.push_back(Glyphs{std::string(text), across(CurrentX), down(CurrentY), FontFace, FontSize, ForeColor});
-    }
-    CurrentX += TextWidth(text);
+    const double width = textWidth(FontFace, text, FontSize);
+    addText(text, width);
+    CurrentX += width / std::abs(perX_);
 }
 
 void DrawingSurface::printLine(std::string_view text) {
@@ -81,6 +88,8 @@ void DrawingSurface::place(const DisplayList& drawing, double x, double y) {
         std::visit(Shift{x, y}, operation);
         drawn_.push_back(std::move(operation));
     }
+    if (const Glyphs* run = drawn_.empty() ? nullptr : std::get_if<Glyphs>(&drawn_.back()))
+        runEnd_ = run->x + textWidth(run->face, run->text, run->size);
 }
 
 void DrawingSurface::NewPage() {}

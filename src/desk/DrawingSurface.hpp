@@ -67,12 +67,15 @@ private:
     [[nodiscard]] double across(double x) const { return originX_ + x * perX_; }
     [[nodiscard]] double down(double y) const { return originY_ + y * perY_; }
     [[nodiscard]] bool continues(const Glyphs& run) const;
+    void addText(std::string_view text, double width);
 
     // Where the pen's (0, 0) lies in the drawing, and how much of it one unit of the pen takes.
     double originX_ = 0;
     double originY_ = 0;
     double perX_ = 1;
     double perY_ = 1;
+    // Where the last run of glyphs ends, so that it need not be measured again with each glyph.
+    double runEnd_ = 0;
 };
 
 }  // namespace ordwise

@@ -39,6 +39,8 @@ void CollectVariables();
 void ExplodeTokens(std::string_view text);
 // The text of the TokenBuffer, up to TokenLast and a margin. e.g. "+2x=+4"
 [[nodiscard]] std::string ImplodeTokens();
+// Some token of that text has the character in it. e.g. '/' -> true for +3/4+x
+[[nodiscard]] bool tokensHold(char c);
 // The same of all of InputTokens, and of CanonTokens up to CanonLast.
 [[nodiscard]] std::string ImplodeInput();
 [[nodiscard]] std::string ImplodeCanon();

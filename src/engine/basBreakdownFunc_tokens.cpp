@@ -21,15 +21,25 @@ constexpr int growthLimit = 100;
 constexpr int clearMargin = 50;
 constexpr int readMargin = 5;
 
+// Most tokens are one character, and none at all is no rarity.
+void append(std::string& text, const std::string& token) {
+    if (token.size() == 1) {
+        text.push_back(token[0]);
+    } else {
+        text += token;
+    }
+}
+
 std::string joinedTokens(const TokenArray& tokens, int last) {
     std::string text;
     const int end = std::min(last, tokens.used() - 1);
-    for (int i = 0; i <= end; ++i) text += tokens[i];
+    for (int i = 0; i <= end; ++i) append(text, tokens[i]);
     return text;
 }
 
 // Digits with or without a point, one character or a whole cell. e.g. "7", "18", "2.5"
 bool isUnsignedNumber(const std::string& token) {
+    if (token.size() == 1) return token[0] >= '0' && token[0] <= '9';
     return !token.empty() && token[0] != '+' && token[0] != '-' && IsNumeric(token);
 }
 
@@ -55,7 +65,8 @@ int FindVariable(std::string_view letter) {
 }
 
 void CollectVariables() {
-    for (int i = 0; i <= lastLevel; ++i) ws.VarNames[i].clear();
+    // What lies beyond the last name is empty.
+    for (int i = 0; i <= std::min<int>(ws.VarCount, lastLevel); ++i) ws.VarNames[i].clear();
     ws.VarCount = 1;
     for (int i = 0; i < ws.InputLast; ++i) {
         const std::string& c = ws.InputTokens[i];
@@ -81,6 +92,14 @@ std::string ImplodeTokens() {
     return joinedTokens(ws.TokenBuffer, ws.TokenLast + readMargin);
 }
 
+bool tokensHold(char c) {
+    const int end = std::min(ws.TokenLast + readMargin, ws.TokenBuffer.used() - 1);
+    for (int i = 0; i <= end; ++i) {
+        if (ws.TokenBuffer[i].find(c) != std::string::npos) return true;
+    }
+    return false;
+}
+
 std::string ImplodeInput() {
     return joinedTokens(ws.InputTokens, lastToken);
 }
@@ -91,7 +110,7 @@ std::string ImplodeCanon() {
 
 std::string tokensText(int first, int last) {
     std::string text;
-    for (int i = first; i <= last; ++i) text += ws.TokenBuffer[i];
+    for (int i = first; i <= last; ++i) append(text, ws.TokenBuffer[i]);
     return text;
 }
 
@@ -180,14 +199,31 @@ void insertPlus(TokenArray& tokens, int slot) {
     for (int i = slot; !moved.empty(); ++i) std::swap(tokens.slot(i), moved);
 }
 
-// The tokens of the buffer with a sign at their start and behind "=". e.g. 2x=4 -> +2x=+4
-void writeOuterSigns(TokenArray& tokens) {
+// The buffer begins with a sign, has no gap and ends where TokenLast says, as after a merge.
+bool isInOrder() {
+    if (!IsSign(ws.TokenBuffer[0]) || ws.TokenBuffer.used() > ws.TokenLast + 2) return false;
+    for (int i = 1; i < ws.TokenBuffer.used(); ++i) {
+        if (ws.TokenBuffer[i].empty()) return false;
+    }
+    return true;
+}
+
+void copyWithFirstSign(TokenArray& tokens) {
     tokens.clear();
     int count = 0;
     if (!IsSign(ws.TokenBuffer[0])) tokens.slot(count++) = "+";
     const int end = std::min(ws.TokenLast + 1, ws.TokenBuffer.used() - 1);
     for (int i = 0; i <= end; ++i) {
         if (!ws.TokenBuffer[i].empty()) tokens.slot(count++) = ws.TokenBuffer[i];
+    }
+}
+
+// Takes the tokens out of the buffer, with a sign at their start and behind "=". e.g. 2x=4 -> +2x=+4
+void takeWithOuterSigns(TokenArray& tokens) {
+    if (isInOrder()) {
+        std::swap(tokens, ws.TokenBuffer);
+    } else {
+        copyWithFirstSign(tokens);
     }
     for (int i = 0; i < tokens.used(); ++i) {
         if (isMark(tokens[i], '=') && !startsWithSign(tokens, i + 1)) insertPlus(tokens, i + 1);
@@ -250,7 +286,7 @@ private:
 }  // namespace
 
 void NormaliseSigns() {
-    writeOuterSigns(ws.SpareTokens);
+    takeWithOuterSigns(ws.SpareTokens);
     InnerSigns(ws.SpareTokens).run();
 }
 

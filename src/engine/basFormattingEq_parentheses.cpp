@@ -136,7 +136,7 @@ bool RemoveParentheses(bool silent) {
     ws.StepClass = 2;
     const int depth = ws.MaxDepth;
     if (depth == 0) return false;
-    if (!contains(ImplodeTokens(), "(")) {
+    if (!tokensHold('(')) {
         AbsoluteValueStep(0);
         return false;
     }

@@ -13,6 +13,7 @@
 #include "basSolveOrders.hpp"
 
 #include <cmath>
+#include <utility>
 
 namespace ordwise {
 namespace {
@@ -41,11 +42,11 @@ void reduceRoots(int group, bool silent, bool stopFlag) {
 }
 
 void reducePass(int group, bool silent, bool stopFlag) {
-    if (!contains(ImplodeTokens(), "|") && ws.MaxDepth >= 1) {
+    if (!tokensHold('|') && ws.MaxDepth >= 1) {
         RemoveParentheses();
         CommitStep();
     }
-    if (!contains(ImplodeTokens(), "~") && ws.GroupProduct[ws.MaxDepth][group]) OrderPolynomial(group);
+    if (!tokensHold('~') && ws.GroupProduct[ws.MaxDepth][group]) OrderPolynomial(group);
     if (group > ws.GroupTable[ws.MaxDepth].lastGroup) return;
     if (ws.ProblemType == calculatingRoots) {
         reduceRoots(group, silent, stopFlag);
@@ -55,8 +56,8 @@ void reducePass(int group, bool silent, bool stopFlag) {
     }
 }
 
-bool betweenBars(const std::string& text) {
-    return ws.MaxDepth == 1 && contains(text, "|");
+bool betweenBars() {
+    return ws.MaxDepth == 1 && tokensHold('|');
 }
 
 bool holdsConstantPower(int group) {
@@ -72,23 +73,22 @@ bool holdsConstantPower(int group) {
 // expression whose variable has been replaced counts as numbers. Where results are decimals, the
 // passes convert the fractions one by one.
 bool wantsFractionArithmetic(int group) {
-    const std::string text = ImplodeTokens();
+    if (!ws.UseFractions || termCount(group) < 2) return false;
     const std::string own = groupText(ws.MaxDepth, group);
-    const std::string& variable = ws.VarNames[1];
-    if (!ws.UseFractions || termCount(group) < 2 || !contains(own, "/") || contains(own, ".")) return false;
+    if (!contains(own, "/") || contains(own, ".")) return false;
     if (holdsConstantPower(group)) return false;  // fractions are read without exponents
+    const std::string& variable = ws.VarNames[1];
     const bool enough = fractionTokens() >= termCount(group) - 1 && variable.empty() && ws.MaxDepth == 0;
-    const bool replacedVariable = !variable.empty() && !contains(text, variable);
-    return betweenBars(text) || enough || replacedVariable;
+    const bool replacedVariable = !variable.empty() && !contains(ImplodeTokens(), variable);
+    return betweenBars() || enough || replacedVariable;
 }
 
 // What the passes have left apart: numbers without a variable, or anything between bars.
 bool wantsLastFractionArithmetic(int group) {
-    const std::string text = ImplodeTokens();
+    if (!ws.UseFractions || termCount(group) < 2 || tokensHold('.')) return false;
     const bool plain = ws.VarNames[1].empty() && ws.MaxDepth == 0 && !holdsConstantPower(group);
     const bool fewFractions = fractionTokens() < termCount(group) - 1;
-    if (!ws.UseFractions || contains(text, ".") || termCount(group) < 2) return false;
-    return betweenBars(text) || (plain && !fewFractions);
+    return betweenBars() || (plain && !fewFractions);
 }
 
 }  // namespace
@@ -99,8 +99,9 @@ void ReduceExpression(int group, bool silent, bool stopFlag) {
     std::string before;
     // A pass is the last one when it leaves the text as it was. A stable line alone is no end: the
     // pre-pass may have recorded its step, and the pass behind it found nothing more to do.
-    for (int pass = 0; pass < passLimit && before != ImplodeTokens(); ++pass) {
-        before = ImplodeTokens();
+    std::string text = ImplodeTokens();
+    for (int pass = 0; pass < passLimit && before != text; ++pass, text = ImplodeTokens()) {
+        before = std::move(text);
         reducePass(group, silent, stopFlag);
         if (!wantsFractionArithmetic(group)) continue;
         FractionArithmetic(group);
@@ -194,10 +195,11 @@ std::string prePassTerm(const ExprTerm& term, bool& moved) {
 // Negative exponents go below the bar, and the fractions of an equation into lowest terms.
 // e.g. 19x^-2/2 -> 19/2x^2
 void prePass(int group, bool silent) {
+    if (ws.MaxDepth != 0) return;
     const std::string text = ImplodeTokens();
     const std::string& variable = ws.VarNames[1];
     const bool equation = !variable.empty() && contains(text, "=") && contains(text, "/") && !contains(text, "[");
-    if (ws.MaxDepth != 0 || !(contains(text, "^-") || equation)) return;
+    if (!contains(text, "^-") && !equation) return;
     choosePrePassNote(text, ImplodeCanon());
     bool moved = false;
     std::string terms;

@@ -31,6 +31,8 @@ struct RewriteFacts {
 // The cells of CanonTokens, from slot 1, to cells and marks in CanonTokens, from slot 4. CanonLast
 // becomes the slot one cell behind the last one. Fault 9 for more than 499 cells.
 RewriteFacts rewriteCells();
+// The same for cells that stand in CanonIn already, at every fourth slot from 4 on.
+RewriteFacts rewriteSpaced(int cells);
 
 // rewriteCells for the paper: it decides whether Solve is enabled as well.
 void RewritePass();

@@ -12,10 +12,10 @@ namespace ordwise {
 
 namespace {
 
-// Writes the cells of a line into CanonTokens, from slot 1.
+// Writes the cells of a line into CanonIn, from slot 4, where the pass reads them.
 class LineCells {
 public:
-    LineCells() { ws.CanonTokens.clear(); }
+    LineCells() { ws.CanonIn.clear(); }
 
     void add(const std::string& before, const std::string& token, const std::string& after) {
         if (token.empty()) return;
@@ -33,14 +33,14 @@ public:
 
     // Their number.
     [[nodiscard]] int close() {
-        ws.CanonTokens.clear(count_ + 1, ws.CanonTokens.used() - 1);
+        ws.CanonIn.clear(4 * count_ + 1, ws.CanonIn.used() - 1);
         return count_;
     }
 
 private:
-    void write(std::string_view cell) { ws.CanonTokens.slot(++count_) = cell; }
+    void write(std::string_view cell) { ws.CanonIn.slot(4 * ++count_) = cell; }
     // The cell written `back` before the last one; slot 0 is empty.
-    [[nodiscard]] const std::string& written(int back) const { return ws.CanonTokens[std::max(count_ - back, 0)]; }
+    [[nodiscard]] const std::string& written(int back) const { return ws.CanonIn[4 * std::max(count_ - back, 0)]; }
 
     // The next cell is the first of the line, of a side, of a parenthesis or between bars.
     [[nodiscard]] bool startsTerms() const {
@@ -85,8 +85,7 @@ const std::string& CanonicalLine() {
     for (int i = 0; i <= ws.TokenLast + 1; ++i) {
         line.add(i > 0 ? ws.TokenBuffer[i - 1] : none, ws.TokenBuffer[i], i < lastToken ? ws.TokenBuffer[i + 1] : none);
     }
-    ws.CanonLast = line.close();
-    rewriteCells();
+    rewriteSpaced(line.close());
     ws.CanonLine = joinedCells();
     ws.CanonSource.remember(ws.TokenBuffer, ws.TokenLast, ws.ProblemType);
     return ws.CanonLine;

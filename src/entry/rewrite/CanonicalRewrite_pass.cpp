@@ -28,7 +28,7 @@ int spreadCells() {
     for (int i = 0; i <= end; ++i) {
         if (ws.CanonTokens[i].empty()) continue;
         ++cells;
-        ws.CanonIn.set(4 * cells, ws.CanonTokens[i]);
+        ws.CanonIn.slot(4 * cells) = ws.CanonTokens[i];
     }
     return cells;
 }
@@ -45,6 +45,8 @@ bool dividesFractions() {
 
 class Walk {
 public:
+    explicit Walk(int cells) : cells_(cells) {}
+
     RewriteFacts run();
 
 private:
@@ -62,9 +64,9 @@ private:
     void absoluteBar();
     void plain();
 
-    void write(const std::string& text);
+    void write(std::string_view text);
     void copy() { write(*c_); }
-    void mark(int gap, const std::string& text) { ws.CanonOut.set(w() - 4 + gap, text); }
+    void mark(int gap, std::string_view text) { ws.CanonOut.slot(w() - 4 + gap) = text; }
     void beginTerm(int slot) { ws.CanonGroupStart[place(level_)] = slot; }
 
     void closeExponent();
@@ -80,6 +82,7 @@ private:
     // is never taken off the level; neither may end outside of the table.
     [[nodiscard]] static int place(int level) { return std::clamp(level, 0, lastLevel); }
 
+    int cells_;                       // their number
     int i_ = 4;                       // the cell being read, in CanonIn
     const std::string* c_ = nullptr;  // it
     const std::string* p_ = nullptr;  // the one before
@@ -95,9 +98,9 @@ private:
     int commas_ = 0;
 };
 
-void Walk::write(const std::string& text) {
+void Walk::write(std::string_view text) {
     if (text.empty()) return;
-    ws.CanonOut.set(w(), text);
+    ws.CanonOut.slot(w()) = text;
     ws.CanonWrite = w() + 4;
 }
 
@@ -307,14 +310,13 @@ void Walk::closeAll() {
 }
 
 RewriteFacts Walk::run() {
-    const int cells = spreadCells();
     ws.CanonSource.forget();
     ws.CanonOut.clear();
     ws.CanonWrite = 4;
     ws.CanonGroupStart[0] = 0;
     ws.CanonFractionOpen = false;
 
-    for (; i_ <= 4 * cells; i_ += 4) {
+    for (; i_ <= 4 * cells_; i_ += 4) {
         c_ = &ws.CanonIn[i_];
         p_ = &ws.CanonIn[i_ - 4];
         n_ = &ws.CanonIn[i_ + 4];
@@ -325,13 +327,17 @@ RewriteFacts Walk::run() {
     ws.CanonTokens.clear();
     std::swap(ws.CanonTokens, ws.CanonOut);
     ws.CanonLast = w();
-    return {cells, level_, commas_};
+    return {cells_, level_, commas_};
 }
 
 }  // namespace
 
 RewriteFacts rewriteCells() {
-    return Walk().run();
+    return rewriteSpaced(spreadCells());
+}
+
+RewriteFacts rewriteSpaced(int cells) {
+    return Walk(cells).run();
 }
 
 void RewritePass() {
