@@ -1,9 +1,7 @@
-// Where the time of a solve goes: commits by the length of the text, the growth of a solve with its
-// terms and with the depth of its parentheses, number text, a drawn line.
+// Where the time of a solve goes: commits by the length of the text, number text, a drawn line.
 #include "FreshProgram.hpp"
 #include "NumberText.hpp"
 #include "PlainPlatform.hpp"
-#include "Requests.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
@@ -25,7 +23,22 @@ std::string sumOf(std::int64_t terms) {
     return sum;
 }
 
-void commit(benchmark::State& state) {
+// A text that is new to the store each time: two that take turns.
+void commitNewText(benchmark::State& state) {
+    const PlainPlatform outside;
+    startFreshProgram();
+    const std::string texts[] = {sumOf(state.range(0)), "-" + sumOf(state.range(0)).substr(1)};
+    int turn = 0;
+    for (auto _ : state) {
+        ExplodeTokens(texts[turn ^= 1]);
+        CommitStep({.silent = true});
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(commitNewText)->RangeMultiplier(2)->Range(2, 64)->Complexity();
+
+// The text that the store was made from, as two commits of three bring it.
+void commitKnownText(benchmark::State& state) {
     const PlainPlatform outside;
     startFreshProgram();
     const std::string text = sumOf(state.range(0));
@@ -35,30 +48,7 @@ void commit(benchmark::State& state) {
     }
     state.SetComplexityN(state.range(0));
 }
-BENCHMARK(commit)->RangeMultiplier(2)->Range(2, 64)->Complexity();
-
-void parse(benchmark::State& state) {
-    const PlainPlatform outside;
-    startFreshProgram();
-    const std::string text = sumOf(state.range(0));
-    for (auto _ : state) {
-        ExplodeTokens(text);
-        MergeNumbers();
-        ParseExpression();
-    }
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(parse)->RangeMultiplier(2)->Range(2, 64)->Complexity();
-
-// One step a term, so the time of a step is this divided by the number of terms.
-void solveSum(benchmark::State& state) {
-    SolveRequest request;
-    request.topic = "Arithmetic";
-    for (std::int64_t i = 0; i < state.range(0); ++i) request.problem += (i > 0 ? "+" : "") + std::to_string(i % 9 + 1);
-    for (auto _ : state) benchmark::DoNotOptimize(answerSolve(request));
-    state.SetComplexityN(state.range(0));
-}
-BENCHMARK(solveSum)->Arg(5)->Arg(10)->Arg(15)->Arg(20)->Arg(25)->Complexity();
+BENCHMARK(commitKnownText)->RangeMultiplier(2)->Range(2, 64)->Complexity();
 
 void numberToText(benchmark::State& state) {
     const PlainPlatform outside;
@@ -76,16 +66,21 @@ void textOfDouble(benchmark::State& state) {
 }
 BENCHMARK(textOfDouble);
 
+const char* const lines[] = {"2+3*4-5", "3x^2^+4x-7=2x+9", "5~18~-~8~", "#1/2#+#1/3#",
+                             "[#1/2#]*#3/3#+[#1/3#]*#2/2#-3x^2^+~12~"};
+
 void drawLine(benchmark::State& state) {
     const PlainPlatform outside;
     startFreshProgram();
+    const char* const line = lines[state.range(0)];
     for (auto _ : state) {
         frmPaper.Paper[0].cls();
         frmPaper.Paper[0].CurrentY = sheetTopY;
-        PrintMathLine("[#1/2#]*#3/3#+[#1/3#]*#2/2#-3x^2^+~12~", false);
+        PrintMathLine(line, false);
     }
+    state.SetLabel(line);
 }
-BENCHMARK(drawLine);
+BENCHMARK(drawLine)->DenseRange(0, 4);
 
 }  // namespace
 }  // namespace ordwise

@@ -49,7 +49,7 @@ SolveRequest requestOf(const Sample& sample) {
 void solve(benchmark::State& state) {
     const Sample& sample = samples()[static_cast<std::size_t>(state.range(0))];
     const SolveRequest request = requestOf(sample);
-    for (auto _ : state) benchmark::DoNotOptimize(answerSolve(request).dump());
+    for (auto _ : state) benchmark::DoNotOptimize(solveAnswer(request));
     state.SetLabel(std::string(sample.topic) + " " + sample.problem);
     state.SetItemsProcessed(state.iterations());
 }
@@ -64,7 +64,7 @@ void batchOfExpressionTopics(benchmark::State& state) {
         lines.push_back(line.dump());
     }
     for (auto _ : state) {
-        for (const auto& line : lines) benchmark::DoNotOptimize(answerLine(line).dump());
+        for (const auto& line : lines) benchmark::DoNotOptimize(answerTextOfLine(line));
     }
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(lines.size()));
 }
@@ -72,7 +72,7 @@ BENCHMARK(batchOfExpressionTopics);
 
 void keys(benchmark::State& state) {
     const std::string text = "9(3x^2+8^2)-3/4+4x";
-    for (auto _ : state) benchmark::DoNotOptimize(answerKeys({"Simplifying Polynomials", text}));
+    for (auto _ : state) benchmark::DoNotOptimize(keysAnswer({"Simplifying Polynomials", text}));
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(keys);

@@ -68,7 +68,7 @@ public:
 
     // The same slots made, with equal values in them.
     [[nodiscard]] friend bool operator==(const SlotArray& a, const SlotArray& b) {
-        return a.used_ == b.used_ && std::equal(a.slots_.begin(), a.end(), b.slots_.begin());
+        return a.used_ == b.used_ && std::equal(a.slots_.begin(), a.end(), b.slots_.begin(), isEqual);
     }
 
     // One past the highest slot that was ever written since the last clear(); all beyond is empty.
@@ -80,6 +80,13 @@ private:
         return static_cast<std::size_t>(index);
     }
     auto end() const { return slots_.begin() + used(); }
+    // Most texts in an array are one character long, which needs no call.
+    static bool isEqual(const T& a, const T& b) {
+        if constexpr (requires { a.size() == 1 && a[0] == b[0]; }) {
+            if (a.size() == 1) return b.size() == 1 && a[0] == b[0];
+        }
+        return a == b;
+    }
     static const T& empty() {
         static const T value{};
         return value;

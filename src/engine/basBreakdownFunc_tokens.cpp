@@ -95,7 +95,8 @@ std::string ImplodeTokens() {
 bool tokensHold(char c) {
     const int end = std::min(ws.TokenLast + readMargin, ws.TokenBuffer.used() - 1);
     for (int i = 0; i <= end; ++i) {
-        if (ws.TokenBuffer[i].find(c) != std::string::npos) return true;
+        const std::string& token = ws.TokenBuffer[i];
+        if (token.size() == 1 ? token[0] == c : token.find(c) != std::string::npos) return true;
     }
     return false;
 }

@@ -199,6 +199,7 @@ std::string writtenOutPower(const Monomial& base, const std::string& fractionTex
 }
 
 std::string withoutExponentOne(const std::string& text) {
+    if (!contains(text, "^1")) return text;
     std::string kept;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const bool exponentOne = text.compare(at, 2, "^1") == 0;

@@ -3,9 +3,6 @@
 #include "TokenPredicates.hpp"
 #include "Workspace.hpp"
 
-#include <utility>
-#include <vector>
-
 namespace ordwise {
 
 namespace {
@@ -14,46 +11,40 @@ bool isDigit(const std::string& s) {
     return s.size() == 1 && s[0] >= '0' && s[0] <= '9';
 }
 
+// Writes the cells into CanonTokens, from slot 1.
 class Grouping {
 public:
+    Grouping() { ws.CanonTokens.clear(); }
+
     void add(const std::string& before, const std::string& c, const std::string& after) {
         if (c.empty()) return;
-        if (c == "." || isDigit(c)) {
-            if (numberOpen_) {
-                cells_.back() += c;
-            } else {
-                open(c);
-            }
+        if (isMark(c, '.') || isDigit(c)) {
+            numberOpen_ ? extend(c) : open(c);
             numberOpen_ = true;
-        } else if (c == "/") {
-            if (joinsNumber(before, after)) {
-                cells_.back() += c;
-            } else {
-                open(c);
-                numberOpen_ = false;
-            }
+        } else if (isMark(c, '/') && joinsNumber(before, after)) {
+            extend(c);
         } else {
             open(c);
             numberOpen_ = false;
-            exponentSeen_ = c == "^" || c == "?";
+            if (!isMark(c, '/')) exponentSeen_ = isMark(c, '^') || isMark(c, '?');
         }
     }
 
-    [[nodiscard]] std::vector<std::string> cells() && { return std::move(cells_); }
+    [[nodiscard]] int count() const { return count_; }
 
 private:
-    void open(const std::string& c) { cells_.push_back(c); }
+    void open(const std::string& c) { ws.CanonTokens.slot(++count_) = c; }
+    void extend(const std::string& c) { ws.CanonTokens.slot(count_) += c; }
 
     // "3/4" is one cell; a bar with a letter, a parenthesis or an exponent beside it stands alone,
     // and so does one whose second number has not been typed yet.
     [[nodiscard]] bool joinsNumber(const std::string& before, const std::string& after) const {
-        const std::size_t count = cells_.size();
-        const bool negativeExponent = count >= 3 && cells_[count - 3] == "^";
-        return numberOpen_ && !exponentSeen_ && !negativeExponent && before != ")" && isDigit(after) &&
-               !IsFractionToken(cells_.back());
+        const bool negativeExponent = count_ >= 3 && isMark(ws.CanonTokens[count_ - 2], '^');
+        return numberOpen_ && !exponentSeen_ && !negativeExponent && !isMark(before, ')') && isDigit(after) &&
+               !IsFractionToken(ws.CanonTokens[count_]);
     }
 
-    std::vector<std::string> cells_;
+    int count_ = 0;
     bool numberOpen_ = false;    // the current cell is a number that may grow
     bool exponentSeen_ = false;  // it is an exponent's
 };
@@ -68,11 +59,8 @@ void GroupInput() {
                      i < lastToken ? ws.InputTokens[i + 1] : none);
     }
 
-    ws.CanonTokens.clear();
+    ws.CanonLast = grouping.count();
     ws.CanonSource.forget();
-    int slot = 0;
-    for (std::string& cell : std::move(grouping).cells()) ws.CanonTokens.set(++slot, std::move(cell));
-    ws.CanonLast = slot;
 }
 
 }  // namespace ordwise

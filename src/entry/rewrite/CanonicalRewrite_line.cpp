@@ -53,6 +53,7 @@ private:
 
     // A root token is coefficient and radicand in one. e.g. "3~5" -> "3", "~", "5"
     bool splitRoot(std::string_view token) {
+        if (token.size() == 1 && token[0] != '~') return false;
         const std::size_t sign = token.find('~');
         if (sign == std::string_view::npos) return false;
         for (const std::string_view part : {token.substr(0, sign), std::string_view("~"), token.substr(sign + 1)}) {
