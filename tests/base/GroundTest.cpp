@@ -81,6 +81,31 @@ TEST(SlotArray, ClearsARangeAndEverything) {
     EXPECT_EQ(copy[8], "8");
 }
 
+// A clear leaves the old texts in their memory; nothing of them may come back.
+TEST(SlotArray, MakesClearedSlotsAnewAndEmpty) {
+    SlotArray<std::string, 20> tokens;
+    SlotArray<SlotArray<std::string, 5>, 5> rows;
+    for (int i = 0; i <= 10; ++i) tokens.set(i, std::to_string(i));
+    rows.slot(2).set(3, "old");
+    tokens.clear();
+    rows.clear();
+    EXPECT_EQ(tokens[4], "");
+    tokens.set(6, "new");
+    rows.slot(4).set(0, "new");
+    EXPECT_EQ(tokens[4] + tokens[5] + tokens[6] + tokens[7], "new");
+    EXPECT_EQ(rows[2][3], "");
+
+    SlotArray<std::string, 20> other;
+    other.set(6, "new");
+    EXPECT_TRUE(tokens == other) << "what lies behind the slots in use is no part of the array";
+    other.set(6, "net");
+    EXPECT_FALSE(tokens == other);
+    other = tokens;
+    const SlotArray<std::string, 20> moved = std::move(tokens);
+    EXPECT_TRUE(moved == other);
+    EXPECT_EQ(tokens.used(), 0);  // NOLINT(bugprone-use-after-move): a moved array is an empty one
+}
+
 TEST(Fault, TakesThePlaceOfInfinities) {
     EXPECT_EQ(divided(1, 4), 0.25);
     EXPECT_EQ(faultOf([] { (void)divided(5, 0); }), 11);
