@@ -15,6 +15,8 @@ namespace ordwise::test {
 DeskTest::DeskTest() {
     startFreshProgram();
     frame = std::make_unique<FrameWindow>();
+    platform.printer = &printer_;  // nothing may reach a printer of this machine
+    printer_.parent = frame.get();
     frame->resize(1120, 930);
     frame->show();
     frame->activateWindow();

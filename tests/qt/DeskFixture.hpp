@@ -2,6 +2,7 @@
 #pragma once
 
 #include "FrameWindow.hpp"
+#include "QtPrinter.hpp"
 
 #include <gtest/gtest.h>
 
@@ -50,6 +51,7 @@ protected:
     std::unique_ptr<FrameWindow> frame;
 
 private:
+    QtPrinter printer_{QtPrinter::Devices::None};
     int dialogsAwaited_ = 0;
 };
 

@@ -6,7 +6,6 @@
 #include "PrintPreview.hpp"
 #include "PrintPreviewDialog.hpp"
 #include "PrintWindows.hpp"
-#include "QtPrinter.hpp"
 #include "Stage.hpp"
 #include "StatusLine.hpp"
 #include "Workspace.hpp"
@@ -33,10 +32,7 @@ namespace {
 
 class PrintWindows : public DeskTest {
 protected:
-    PrintWindows() {
-        platform.printer = &printer;  // nothing may reach a printer of this machine
-        platform.fileDialogs = &fileDialogs;
-    }
+    PrintWindows() { platform.fileDialogs = &fileDialogs; }
 
     template <class Widget>
     static Widget& in(QWidget& dialog, const std::string& name) {
@@ -62,7 +58,6 @@ protected:
 
     QString path(const char* name) const { return folder.filePath(QString::fromLatin1(name)); }
 
-    QtPrinter printer{QtPrinter::Devices::None};
     PlainFileDialogs fileDialogs;
     QTemporaryDir folder;
 };
