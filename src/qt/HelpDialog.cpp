@@ -15,6 +15,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
@@ -59,7 +60,7 @@ HelpDialog::HelpDialog(QWidget* parent, Stage& stage)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(split);
-    resize(960, 700);
+    resize(QSize(960, 700).boundedTo(screen()->availableSize() * 0.9));
     split->setSizes({260, 700});
     buildContents();
     connect(contents_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
