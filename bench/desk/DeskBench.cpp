@@ -1,7 +1,7 @@
 // What a person waits for: from the start to the first picture of the desk, from a key to the sheet
 // with the key on it. On the platform without a screen: painting is measured, showing is not.
 //
-//     QT_QPA_PLATFORM=offscreen ordwise_desk_bench
+//     ordwise_desk_bench 2> /dev/null    the platform grumbles about sizes
 #include "Catalogue.hpp"
 #include "FrameWindow.hpp"
 #include "FreshProgram.hpp"
