@@ -1,5 +1,6 @@
 // The graph beside the desk: what opens it, what it shows, and what can be taken away from it.
 #include "DeskFixture.hpp"
+#include "Sanitized.hpp"
 
 #include "DeskView.hpp"
 #include "GraphView.hpp"
@@ -273,7 +274,7 @@ TEST_F(Graph, shows_every_zoom_at_the_highest_quality_within_a_tenth_of_a_second
     view.actionOf(frmGraph.mnuGraphHighQuality).trigger();
     view.actionOf(frmGraph.mnuGraphMax).trigger();
     while (frmGraph.xMax < 81920) {
-        qint64 best = 1000;
+        qint64 best = 100000;
         for (int attempt = 0; attempt < 5; ++attempt) {
             if (attempt > 0) view.actionOf(frmGraph.mnuGraphZoomIn).trigger();
             QApplication::processEvents();
@@ -284,7 +285,8 @@ TEST_F(Graph, shows_every_zoom_at_the_highest_quality_within_a_tenth_of_a_second
             best = std::min(best, timer.elapsed());
         }
         RecordProperty("milliseconds_to_" + std::to_string(static_cast<int>(frmGraph.xMax)), static_cast<int>(best));
-        EXPECT_LT(best, 100) << "xMax " << frmGraph.xMax << ", " << rows(view).size() << " rows";
+        EXPECT_LT(static_cast<double>(best), allowed(100))
+            << "xMax " << frmGraph.xMax << ", " << rows(view).size() << " rows";
     }
 }
 

@@ -21,6 +21,7 @@
 #include <QContextMenuEvent>
 #include <QDir>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPixmapCache>
@@ -98,6 +99,11 @@ protected:
                 line->setText(QDir::homePath() + '/' + name);
             QTest::keyClick(files, draw(3) == 0 ? Qt::Key_Escape : Qt::Key_Return);
             if (draw(4) == 0) files->reject();
+        } else if (auto* question = qobject_cast<QInputDialog*>(&dialog); question != nullptr && draw(3) > 0) {
+            // Some are asked again until the answer is a letter of the problem.
+            static const QString answers = QStringLiteral("abcdefghijklmnopqrstuvwxyz0123456789");
+            question->setTextValue(answers.mid(draw(static_cast<int>(answers.size())), 1));
+            QTest::keyClick(question, Qt::Key_Return);
         } else if (draw(3) == 0) {
             dialog.close();
         } else {
