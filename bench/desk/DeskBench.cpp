@@ -1,12 +1,17 @@
 // What a person waits for: from the start to the first picture of the desk, from a key to the sheet
-// with the key on it. On the platform without a screen: painting is measured, showing is not.
+// with the key on it, from a zoom of the graph to its picture. On the platform without a screen: painting is measured,
+// showing is not.
 //
 //     ordwise_desk_bench 2> /dev/null    the platform grumbles about sizes
 #include "Catalogue.hpp"
 #include "FrameWindow.hpp"
 #include "FreshProgram.hpp"
+#include "GraphCommands.hpp"
+#include "GraphView.hpp"
+#include "GraphWindow.hpp"
 #include "SheetView.hpp"
 #include "WorksheetLayout.hpp"
+#include "Workspace.hpp"
 
 #include <benchmark/benchmark.h>
 
@@ -76,6 +81,34 @@ void keyToPaint(benchmark::State& state) {
     }
 }
 BENCHMARK(keyToPaint)->Unit(benchmark::kMillisecond);
+
+// y^2=x, the dearest curve, at the highest quality in the largest window, with its list; the number is
+// the bound that is zoomed to: 160 has the most grid lines, 1280 the longest list, 81920 is the widest.
+void zoomOfGraphToPaint(benchmark::State& state) {
+    startFreshProgram();
+    FrameWindow frame;
+    frame.show();
+    ws.GraphKind = 3;
+    const char* const curve[] = {"+", "1/1", "y", "^", "+", "2", "=", "+", "1/1", "x"};
+    int slot = 0;
+    for (const char* token : curve) ws.GraphValues.set(slot++, token);
+    platform.windows->show("frmGraph");
+    auto* const view = static_cast<GraphView*>(frame.windows().open("frmGraph"));
+    view->actionOf(frmGraph.mnuGraphHighQuality).trigger();
+    view->actionOf(frmGraph.mnuGraphMax).trigger();
+    const auto bound = static_cast<double>(state.range(0));
+    while (frmGraph.xMax < bound) view->actionOf(frmGraph.mnuGraphZoomOut).trigger();
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        state.PauseTiming();
+        view->actionOf(frmGraph.mnuGraphZoomIn).trigger();
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        view->actionOf(frmGraph.mnuGraphZoomOut).trigger();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(zoomOfGraphToPaint)->Arg(160)->Arg(1280)->Arg(81920)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace ordwise

@@ -15,11 +15,9 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QTest>
 
-#include <algorithm>
 #include <vector>
 
 namespace ordwise::test {
@@ -343,43 +341,6 @@ TEST_F(Desk, a_faulty_line_is_told_and_the_program_goes_on) {
     PrintMathLine("x^2", false);
     type(QStringLiteral("4+5"));
     EXPECT_EQ(ws.ProblemText, "4+5");
-}
-
-// Counts how often a widget was painted.
-class PaintWatch : public QObject {
-public:
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-    int paints = 0;
-
-    bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::Paint) ++paints;
-        return false;
-    }
-};
-
-// A frame of the screen is 16 ms; the median keeps a busy machine from deciding.
-TEST_F(Desk, a_key_is_on_the_sheet_within_a_frame) {
-    choose(QStringLiteral("simplifying p"));
-    std::vector<qint64> times;
-    PaintWatch watch(frame->desk().sheet(0));
-    const QString keys = QStringLiteral("9(3x^2+8^2)-3/4+4x");
-    for (int round = 0; round < 5; ++round) {
-        for (const QChar key : keys) {
-            QElapsedTimer timer;
-            timer.start();
-            const int before = watch.paints;
-            type(QString(key));
-            while (watch.paints == before && timer.elapsed() < 1000) QCoreApplication::processEvents();
-            ASSERT_GT(watch.paints, before);
-            times.push_back(timer.nsecsElapsed());
-        }
-        for (int i = 0; i < keys.size(); ++i) press(Qt::Key_Backspace);
-    }
-    std::sort(times.begin(), times.end());
-    const double median = static_cast<double>(times[times.size() / 2]) / 1e6;
-    RecordProperty("median_us", static_cast<int>(median * 1000));
-    RecordProperty("slowest_us", static_cast<int>(times.back() / 1000));
-    EXPECT_LT(median, 16);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // The graph beside the desk: what opens it, what it shows, and what can be taken away from it.
 #include "DeskFixture.hpp"
-#include "Sanitized.hpp"
 
 #include "DeskView.hpp"
 #include "GraphView.hpp"
@@ -13,7 +12,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
 #include <QLabel>
@@ -261,33 +259,6 @@ TEST_F(Graph, tells_why_it_was_not_printed) {
     EXPECT_EQ(view.statusLine().sentence().toStdString(), printer.refusal);
     view.actionOf(frmGraph.mnuGraphPrintSetup).trigger();
     EXPECT_EQ(printer.setups, 1);
-}
-
-// The best of five, since the machine may be busy with something else.
-TEST_F(Graph, shows_every_zoom_at_the_highest_quality_within_a_tenth_of_a_second) {
-    const char* const sideways[] = {"+", "1/1", "y", "^", "+", "2", "=", "+", "1/1", "x"};
-    solve(line, "y=2x+3");
-    ws.GraphValues.clear();
-    for (int i = 0; i < 10; ++i) ws.GraphValues.set(i, sideways[i]);
-    command(frmMain.mnuGraph);
-    GraphView& view = *graph();
-    view.actionOf(frmGraph.mnuGraphHighQuality).trigger();
-    view.actionOf(frmGraph.mnuGraphMax).trigger();
-    while (frmGraph.xMax < 81920) {
-        qint64 best = 100000;
-        for (int attempt = 0; attempt < 5; ++attempt) {
-            if (attempt > 0) view.actionOf(frmGraph.mnuGraphZoomIn).trigger();
-            QApplication::processEvents();
-            QElapsedTimer timer;
-            timer.start();
-            view.actionOf(frmGraph.mnuGraphZoomOut).trigger();
-            QApplication::processEvents();  // the painting
-            best = std::min(best, timer.elapsed());
-        }
-        RecordProperty("milliseconds_to_" + std::to_string(static_cast<int>(frmGraph.xMax)), static_cast<int>(best));
-        EXPECT_LT(static_cast<double>(best), allowed(100))
-            << "xMax " << frmGraph.xMax << ", " << rows(view).size() << " rows";
-    }
 }
 
 }  // namespace

@@ -3,7 +3,6 @@
 #include "PercentSolvers.hpp"
 #include "SolutionOf.hpp"
 
-#include <chrono>
 
 namespace ordwise::test {
 namespace {
@@ -45,11 +44,9 @@ TEST(ScientificNotation, BeyondTheRangeOfADoubleOverflowsBothWays) {
 
 TEST(ScientificNotation, ZeroAndNegativeNumbersRunOverAfterTwoSteps) {
     for (const char* number : {"0", "-5", "-0.5"}) {
-        const auto start = std::chrono::steady_clock::now();
         const Solution solution = solutionOf([&] { RegularToScientific(number); });
         EXPECT_EQ(solution.fault, 6) << number;
         EXPECT_EQ(solution.lines.size(), 2U);
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
     }
 }
 
