@@ -3,7 +3,6 @@
 #include "NumberText.hpp"
 #include "SolutionOf.hpp"
 
-
 namespace ordwise::test {
 namespace {
 

@@ -3,7 +3,6 @@
 #include "PercentSolvers.hpp"
 #include "SolutionOf.hpp"
 
-
 namespace ordwise::test {
 namespace {
 
