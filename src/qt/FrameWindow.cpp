@@ -9,6 +9,7 @@
 #include "RecentProblems.hpp"
 #include "SheetView.hpp"
 #include "StatusLine.hpp"
+#include "WelcomeCard.hpp"
 #include "Workspace.hpp"
 
 #include <QAction>
@@ -82,6 +83,8 @@ FrameWindow::FrameWindow()
     statusBar()->addWidget(status_, 1);
     addMenus();
     addToolbar();
+    welcome_ = new WelcomeCard(desk_, actionOf(frmMain.mnuNew), actionOf(frmMain.mnuLoad),
+                               actionOf(frmMain.mnuPracticeTest), actionOf(frmMain.mnuHelpTopics));
     setAcceptDrops(true);
     takePlace();
     showChanges();
@@ -212,6 +215,7 @@ void FrameWindow::showChanges() {
     }
     status_->showSentence(qstringOf(ordwise::statusLine()), statusIsRefusal());
     desk_->showChanges();
+    welcome_->showChanges();
     if (frmPaper.Loaded && sheetInView_ != ws.CurrentSheet) {
         sheetInView_ = ws.CurrentSheet;
         followLine();

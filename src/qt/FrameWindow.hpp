@@ -24,6 +24,7 @@ namespace ordwise {
 
 class DeskView;
 class StatusLine;
+class WelcomeCard;
 struct MenuRow;
 
 class FrameWindow : public QMainWindow {
@@ -76,6 +77,7 @@ private:
     QScrollArea* scroll_;
     StatusLine* status_;
     QToolBar* toolbar_ = nullptr;
+    WelcomeCard* welcome_ = nullptr;
     std::vector<std::pair<const Control*, QAction*>> menuActions_;
     std::vector<std::pair<int, QAction*>> toolActions_;
     int sheetInView_ = 0;

@@ -30,6 +30,17 @@ TEST_F(Desk, begins_empty_and_says_how_to_start) {
     EXPECT_TRUE(frame->statusLine().sentence().contains(QStringLiteral("New Problem")));
     EXPECT_FALSE(frame->actionOf(frmMain.mnuSolve)->isEnabled());
     shoot("empty-desk");
+
+    auto& welcome = child<>("welcome");
+    ASSERT_TRUE(welcome.isVisible());
+    atNextDialog([](QWidget& chooser) {
+        EXPECT_EQ(chooser.objectName(), QStringLiteral("frmSelect"));
+        chooser.close();
+    });
+    clickOn(*welcome.findChildren<QAbstractButton*>().constFirst());
+    EXPECT_TRUE(welcome.isVisible()) << "nothing was chosen";
+    choose(QStringLiteral("solving"));
+    EXPECT_FALSE(welcome.isVisible());
 }
 
 TEST_F(Desk, a_topic_is_found_by_the_beginning_of_its_name) {
