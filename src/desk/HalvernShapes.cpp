@@ -26,8 +26,9 @@ std::vector<ShapePoint> dot(double x, double y, double radius) {
     return points;
 }
 
+// Shorter than its width, so that it stands clear of the bars of two fractions.
 Shape minusShape() {
-    return {box(96, axis - weight / 2, 510, axis + weight / 2)};
+    return {box(110, axis - weight / 2, 496, axis + weight / 2)};
 }
 
 Shape divisionShape() {
@@ -39,7 +40,7 @@ Shape plusOrMinusShape() {
 }
 
 Shape multiplicationShape() {
-    constexpr double arm = 190;
+    constexpr double arm = 165;
     constexpr double half = 28;  // of the weight, along x and along y
     constexpr double x = 250;
     return {{{x - arm + half, axis - arm - half},
