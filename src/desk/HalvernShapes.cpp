@@ -26,9 +26,26 @@ std::vector<ShapePoint> dot(double x, double y, double radius) {
     return points;
 }
 
-// Shorter than its width, so that it stands clear of the bars of two fractions.
+// The signs that stand between two fractions are shorter than their widths, so that they stand clear of
+// the bars on both sides.
+constexpr double signLeft = 110;
+constexpr double signRight = 496;
+
 Shape minusShape() {
-    return {box(110, axis - weight / 2, 496, axis + weight / 2)};
+    return {box(signLeft, axis - weight / 2, signRight, axis + weight / 2)};
+}
+
+Shape plusShape() {
+    constexpr double x = (signLeft + signRight) / 2;
+    constexpr double arm = (signRight - signLeft) / 2 + 10;
+    return {box(x - arm, axis - weight / 2, x + arm, axis + weight / 2),
+            box(x - weight / 2, axis - arm, x + weight / 2, axis + arm)};
+}
+
+Shape equalsShape() {
+    constexpr double apart = 90;
+    return {box(signLeft, axis - apart - weight / 2, signRight, axis - apart + weight / 2),
+            box(signLeft, axis + apart - weight / 2, signRight, axis + apart + weight / 2)};
 }
 
 Shape divisionShape() {
@@ -129,6 +146,8 @@ struct OwnShapes {
     Shape division = divisionShape();
     Shape multiplication = multiplicationShape();
     Shape minus = minusShape();
+    Shape plus = plusShape();
+    Shape equals = equalsShape();
     Shape radical = radicalShape(564, -993);
     Shape tallRadical = tallRadicalShape(248, -180, 345, -1093);
     Shape explanationRadical = radicalShape(578, -886);
@@ -149,6 +168,8 @@ const Shape* shapeOf(Face face, char character) {
         case '~': return face == Face::Halvern ? &own.radical : &own.explanationRadical;
         case '&': return face == Face::Halvern ? &own.tallRadical : &own.tallExplanationRadical;
         case '_': return &own.bar;
+        case '+': return face == Face::Halvern ? &own.plus : nullptr;
+        case '=': return face == Face::Halvern ? &own.equals : nullptr;
         // In the prose of an explanation it is a hyphen more often than a minus.
         case '-': return face == Face::Halvern ? &own.minus : nullptr;
         default: return nullptr;
