@@ -5,6 +5,7 @@
 // where they hide nothing of it; without both of them the strip is gone.
 #pragma once
 
+#include "LoadedFlag.hpp"
 #include "Windows.hpp"
 
 #include <optional>
@@ -33,7 +34,7 @@ struct GraphEquation {
 };
 
 struct GraphWindow : DrawingSurface {
-    bool Loaded = false;
+    LoadedFlag Loaded;
 
     double xMin = -20;
     double xMax = 20;

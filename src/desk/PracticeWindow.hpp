@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ChooserWindow.hpp"
+#include "LoadedFlag.hpp"
 #include "Windows.hpp"
 
 #include <string>
@@ -18,7 +19,7 @@ struct PracticeTestWindow {
         bool Checked = false;  // the topic is in the outline
     };
 
-    bool Loaded = false;
+    LoadedFlag Loaded;
     bool ArrowKeyNavigation = false;  // the tree is walked by its arrow keys, so nodes are not taken
     int SSTab1 = 0;
     std::vector<ChooserWindow::Node> TreeView1;

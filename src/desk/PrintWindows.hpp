@@ -1,6 +1,7 @@
 // frmPrintSetup and frmPrintPreview as plain data.
 #pragma once
 
+#include "LoadedFlag.hpp"
 #include "Platform.hpp"
 #include "Windows.hpp"
 
@@ -11,7 +12,7 @@
 namespace ordwise {
 
 struct PrintSetupWindow {
-    bool Loaded = false;
+    LoadedFlag Loaded;
     Control Text1, Text2, Text3;  // the print heading, written in HalvernFont
     Control Check1;               // "Graph"
     Control Check2;               // "Problem"
@@ -41,7 +42,7 @@ struct PrintPreviewWindow {
         bool Visible = false;
     };
 
-    bool Loaded = false;
+    LoadedFlag Loaded;
     std::vector<TestSheet> Sheets;  // what is shown and printed; whoever opens the window sets it
     BoundedArray<Page, lastPage> Picture1;
     PaperSize Paper;             // what the pages are laid out for

@@ -1,6 +1,7 @@
 // frmLogo, the splash of the start, frmOptions, the settings, and frmAbout, as plain data.
 #pragma once
 
+#include "LoadedFlag.hpp"
 #include "Windows.hpp"
 
 #include <string>
@@ -13,7 +14,7 @@ struct LogoWindow {
 };
 
 struct OptionsWindow {
-    bool Loaded = false;
+    LoadedFlag Loaded;
     std::string Caption = "Settings";
     Control Label1;  // "Choose Assistant Wiz:"
     // The pictures of the three assistants; the one with the selection mark is Checked.
@@ -33,7 +34,7 @@ struct OptionsWindow {
 };
 
 struct AboutWindow {
-    bool Loaded = false;
+    LoadedFlag Loaded;
     std::string Caption = "About Ordwise";
     Control lblTitle;    // the program's name
     Control lblVersion;  // e.g. "Version 0.1.0"

@@ -81,10 +81,14 @@ void setSolveEnabled(bool enabled) {
 
 namespace {
 
-// Assigning keeps the memory of texts and drawings, which the next problem will need again.
+// Assigning keeps the memory of texts and drawings, which the next problem will need again. A window
+// that was never open is as it started.
 template <class Window>
 void restart(Window& window) {
     static const Window asStarted;
+    if constexpr (requires { window.Loaded.wasLoaded(); }) {
+        if (!window.Loaded.wasLoaded()) return;
+    }
     window = asStarted;
 }
 

@@ -143,9 +143,10 @@ const std::vector<std::string>& roundingChoices() {
 }
 
 void clearDesk() {
+    static const Sheet fresh;  // assigned by copy: so the sheets keep the memory of their drawings
     for (int i = 0; i <= PaperWindow::lastSheet; ++i) {
         Sheet& sheet = frmPaper.Paper[i];
-        sheet = Sheet{};
+        sheet = fresh;
         sheet.Visible = i == 0;
         sheet.Label6.Text = i == 0 ? ws.TopicName : ws.TopicName + " (Page " + textOf(i + 1) + ")";
         place(sheet.Label6, 60, 20, 540, labelHeight);

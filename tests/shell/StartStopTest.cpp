@@ -131,6 +131,10 @@ TEST_F(StartStop, OptionsShowTheSettingsAndTakeThemOver) {
     EXPECT_EQ(ws.StepDetail, 2);
     EXPECT_EQ(ws.RoundPlaces, 1);
     EXPECT_EQ(ws.ComplexExamples, 0);
+
+    startFreshProgram();
+    EXPECT_FALSE(frmOptions.Wizard3.Checked) << "what was open starts afresh";
+    EXPECT_EQ(frmOptions.Combo2.ListIndex, 0);
 }
 
 }  // namespace
