@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -50,6 +51,14 @@ public:
     [[nodiscard]] const T& operator[](int index) const {
         const std::size_t place = checked(index);
         return place < used_ ? slots_[place] : empty();
+    }
+
+    // For reading: the slots from `first` to `to`, both included, as far as they were made; bounds are
+    // checked as for a loop over them.
+    [[nodiscard]] std::span<const T> slots(int first, int to) const {
+        if (to < first) return {};
+        const std::size_t begin = std::min(checked(first), used_);
+        return {slots_.data() + begin, std::min(checked(to) + 1, used_) - begin};
     }
 
     void set(int index, T value) { slot(index) = std::move(value); }

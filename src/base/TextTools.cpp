@@ -1,5 +1,7 @@
 #include "TextTools.hpp"
 
+#include <algorithm>
+
 namespace ordwise {
 
 std::string replaced(std::string text, std::string_view from, std::string_view to) {
@@ -23,6 +25,21 @@ std::string joined(const std::vector<std::string>& pieces, std::string_view sepa
     for (std::size_t i = 0; i < pieces.size(); ++i) {
         if (i > 0) text += separator;
         text += pieces[i];
+    }
+    return text;
+}
+
+std::string joined(std::span<const std::string> pieces) {
+    std::size_t length = 0;
+    for (const std::string& piece : pieces) length += piece.size();
+    std::string text(length, '\0');
+    char* at = text.data();
+    for (const std::string& piece : pieces) {
+        if (piece.size() == 1) {
+            *at++ = piece[0];
+        } else if (!piece.empty()) {
+            at = std::copy(piece.begin(), piece.end(), at);
+        }
     }
     return text;
 }

@@ -1,6 +1,7 @@
 // Small operations on text that several layers need and the standard library lacks.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,8 @@ namespace ordwise {
 // The pieces between the separators; an empty text has one empty piece. e.g. "4,,6" -> "4", "", "6"
 [[nodiscard]] std::vector<std::string> split(std::string_view text, char separator);
 [[nodiscard]] std::string joined(const std::vector<std::string>& pieces, std::string_view separator);
+// The pieces one behind the other, most of which are one character or none. e.g. "2", "", "+" -> "2+"
+[[nodiscard]] std::string joined(std::span<const std::string> pieces);
 // Without the blanks at both ends.
 [[nodiscard]] std::string trimmed(std::string_view text);
 // ASCII letters in lower case, all other bytes as they are.

@@ -41,6 +41,8 @@ void ExplodeTokens(std::string_view text);
 [[nodiscard]] std::string ImplodeTokens();
 // Some token of that text has the character in it. e.g. '/' -> true for +3/4+x
 [[nodiscard]] bool tokensHold(char c);
+// The text of ImplodeTokens is this one; without making it.
+[[nodiscard]] bool tokensSpell(std::string_view text);
 // The same of all of InputTokens, and of CanonTokens up to CanonLast.
 [[nodiscard]] std::string ImplodeInput();
 [[nodiscard]] std::string ImplodeCanon();

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
 
 namespace ordwise {
@@ -21,20 +22,9 @@ constexpr int growthLimit = 100;
 constexpr int clearMargin = 50;
 constexpr int readMargin = 5;
 
-// Most tokens are one character, and none at all is no rarity.
-void append(std::string& text, const std::string& token) {
-    if (token.size() == 1) {
-        text.push_back(token[0]);
-    } else {
-        text += token;
-    }
-}
-
-std::string joinedTokens(const TokenArray& tokens, int last) {
-    std::string text;
-    const int end = std::min(last, tokens.used() - 1);
-    for (int i = 0; i <= end; ++i) append(text, tokens[i]);
-    return text;
+// What counts as the text: the tokens up to a few slots past TokenLast.
+std::span<const std::string> readTokens() {
+    return ws.TokenBuffer.slots(0, std::min(ws.TokenLast + readMargin, lastToken));
 }
 
 // Digits with or without a point, one character or a whole cell. e.g. "7", "18", "2.5"
@@ -59,7 +49,8 @@ int FindEquals() {
 
 int FindVariable(std::string_view letter) {
     for (int i = 0; i <= ws.VarCount; ++i) {
-        if (ws.VarNames[i] == letter) return i;
+        const std::string& name = ws.VarNames[i];
+        if (letter.size() == 1 ? isMark(name, letter[0]) : name == letter) return i;
     }
     return 0;
 }
@@ -89,30 +80,34 @@ void ExplodeTokens(std::string_view text) {
 }
 
 std::string ImplodeTokens() {
-    return joinedTokens(ws.TokenBuffer, ws.TokenLast + readMargin);
+    return joined(readTokens());
 }
 
 bool tokensHold(char c) {
-    const int end = std::min(ws.TokenLast + readMargin, ws.TokenBuffer.used() - 1);
-    for (int i = 0; i <= end; ++i) {
-        const std::string& token = ws.TokenBuffer[i];
+    for (const std::string& token : readTokens()) {
         if (token.size() == 1 ? token[0] == c : token.find(c) != std::string::npos) return true;
     }
     return false;
 }
 
+bool tokensSpell(std::string_view text) {
+    for (const std::string& token : readTokens()) {
+        if (!text.starts_with(token)) return false;
+        text.remove_prefix(token.size());
+    }
+    return text.empty();
+}
+
 std::string ImplodeInput() {
-    return joinedTokens(ws.InputTokens, lastToken);
+    return joined(ws.InputTokens.slots(0, lastToken));
 }
 
 std::string ImplodeCanon() {
-    return joinedTokens(ws.CanonTokens, ws.CanonLast);
+    return joined(ws.CanonTokens.slots(0, std::min<int>(ws.CanonLast, lastToken)));
 }
 
 std::string tokensText(int first, int last) {
-    std::string text;
-    for (int i = first; i <= last; ++i) append(text, ws.TokenBuffer[i]);
-    return text;
+    return joined(ws.TokenBuffer.slots(first, last));
 }
 
 void TrimTokenLast() {
@@ -203,10 +198,8 @@ void insertPlus(TokenArray& tokens, int slot) {
 // The buffer begins with a sign, has no gap and ends where TokenLast says, as after a merge.
 bool isInOrder() {
     if (!IsSign(ws.TokenBuffer[0]) || ws.TokenBuffer.used() > ws.TokenLast + 2) return false;
-    for (int i = 1; i < ws.TokenBuffer.used(); ++i) {
-        if (ws.TokenBuffer[i].empty()) return false;
-    }
-    return true;
+    const auto tokens = ws.TokenBuffer.slots(0, lastToken);
+    return std::none_of(tokens.begin(), tokens.end(), [](const std::string& token) { return token.empty(); });
 }
 
 void copyWithFirstSign(TokenArray& tokens) {
@@ -235,7 +228,7 @@ void takeWithOuterSigns(TokenArray& tokens) {
 // a fraction token, and a fraction with letters, where 2^3(x) and 1/2x(x) would say something else.
 bool starIsDropped(const TokenArray& tokens, int slot) {
     const auto p = [&](int back) -> const std::string& { return tokenFromStart(tokens, slot - back); };
-    if (!isMark(tokens[slot], '*') || !isMark(tokens[slot + 1], '(')) return false;
+    if (!isMark(tokens[slot + 1], '(')) return false;
     if (isMark(p(2), '^') || IsFractionToken(p(1))) return false;
     const bool letterFraction =
         isMark(p(2), '/') && !isMark(p(3), ')') && (IsLetter(p(3)) || IsLetter(p(4)) || IsLetter(p(5)));
@@ -257,7 +250,7 @@ public:
 private:
     void take(int i) {
         const std::string& t = tokens_[i];
-        if (starIsDropped(tokens_, i)) return;
+        if (isMark(t, '*') && starIsDropped(tokens_, i)) return;
         write(t);
         if (isMark(t, '|')) ++bars_;
         const bool opens = isMark(t, '(') || (isMark(t, '|') && bars_ % 2 == 1);

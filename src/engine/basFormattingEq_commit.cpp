@@ -6,6 +6,7 @@
 #include "basFormattingEq.hpp"
 
 #include <algorithm>
+#include <string_view>
 
 namespace ordwise {
 namespace {
@@ -15,8 +16,19 @@ constexpr int evaluatingPolynomials = 103;
 const std::string reorderNote = "Reorder the polynomial.";
 const std::string removeNote = "Remove the parenthesis.";
 
-std::string withoutHighlight(const std::string& line) {
-    return replaced(replaced(line, "[", ""), "]", "");
+bool isHighlight(char c) {
+    return c == '[' || c == ']';
+}
+
+// e.g. "2+5" and "2+[5]"
+bool isWithoutHighlight(std::string_view line, std::string_view highlighted) {
+    std::size_t at = 0;
+    for (const char c : highlighted) {
+        if (isHighlight(c)) continue;
+        if (at == line.size() || line[at] != c) return false;
+        ++at;
+    }
+    return at == line.size();
 }
 
 // A coefficient 1 in front of the variable is not spoken. e.g. "Add 1x and 2x" -> "Add x and 2x".
@@ -24,7 +36,7 @@ std::string withoutHighlight(const std::string& line) {
 // step's line has no "#1x" by then, so this shows only in notes that the first pass has not cleaned.
 void dropOnes(const std::string& name, const std::string& fractionName) {
     std::string& note = ws.CurrentNote;
-    if (name.empty() || !contains(note, name)) return;
+    if (name.empty() || note.find('1') == std::string::npos || !contains(note, name)) return;
     if (!contains(note, "1" + name) && !contains(note, "1" + fractionName)) return;  // none of the patterns
     for (const char* front : {" ", "(", " -", "(-"}) note = replaced(note, front + ("1" + name), front + name);
     for (const char* front : {"#", "#-"}) note = replaced(note, front + ("1" + fractionName), front + name);
@@ -53,7 +65,7 @@ void decide(const std::string& line, CommitOptions options) {
         return;
     }
     // Where values are put in for letters, losing the highlight alone is no step.
-    const bool onlyHighlight = ws.ProblemType == evaluatingPolynomials && line == withoutHighlight(ws.LastLine);
+    const bool onlyHighlight = ws.ProblemType == evaluatingPolynomials && isWithoutHighlight(line, ws.LastLine);
     if (!options.silent && !onlyHighlight && !isSuppressed(line)) recordStep(line);
 }
 
@@ -63,7 +75,7 @@ void analyse() {
     KnownText* place = &ws.CommitSources[1];
     for (KnownText& source : ws.CommitSources) {
         if (source.is(ws.TokenBuffer, ws.TokenLast, ws.CurrentSide)) {
-            ws.TokenBuffer = ws.StoreSource.tokens;
+            if (source.tokens != ws.StoreSource.tokens) ws.TokenBuffer = ws.StoreSource.tokens;
             ws.TokenLast = ws.StoreSource.last;
             return;
         }

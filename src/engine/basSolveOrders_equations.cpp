@@ -251,7 +251,7 @@ bool solveByFactoring(int degree) {
             if (Factor(ws.MaxDepth, 0, commonFactor)) return false;
             CommitStep();
         }
-        if (ImplodeTokens() == before) break;
+        if (tokensSpell(before)) break;
     }
     return false;
 }

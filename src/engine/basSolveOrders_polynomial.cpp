@@ -38,7 +38,7 @@ bool isGroup(int depth, int group) {
 bool freeOneGroup() {
     const std::string before = ImplodeTokens();
     RemoveParentheses();
-    if (ImplodeTokens() == before) return false;
+    if (tokensSpell(before)) return false;
     CommitStep();
     return true;
 }
@@ -212,7 +212,7 @@ void ExpandPolynomial() {
         const std::string before = ImplodeTokens();
         const int depth = ws.MaxDepth;
         expandRound(depth);
-        if (ws.MaxDepth == depth && ImplodeTokens() == before) break;
+        if (ws.MaxDepth == depth && tokensSpell(before)) break;
         rounds = ws.MaxDepth == depth ? rounds + 1 : 0;
     }
     ReduceExpression(0);

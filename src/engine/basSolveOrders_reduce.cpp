@@ -99,9 +99,8 @@ void ReduceExpression(int group, bool silent, bool stopFlag) {
     std::string before;
     // A pass is the last one when it leaves the text as it was. A stable line alone is no end: the
     // pre-pass may have recorded its step, and the pass behind it found nothing more to do.
-    std::string text = ImplodeTokens();
-    for (int pass = 0; pass < passLimit && before != text; ++pass, text = ImplodeTokens()) {
-        before = std::move(text);
+    for (int pass = 0; pass < passLimit && !tokensSpell(before); ++pass) {
+        before = ImplodeTokens();
         reducePass(group, silent, stopFlag);
         if (!wantsFractionArithmetic(group)) continue;
         FractionArithmetic(group);

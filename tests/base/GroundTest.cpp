@@ -81,6 +81,17 @@ TEST(SlotArray, ClearsARangeAndEverything) {
     EXPECT_EQ(copy[8], "8");
 }
 
+TEST(SlotArray, GivesARangeAsFarAsItWasMade) {
+    SlotArray<std::string, 20> tokens;
+    EXPECT_TRUE(tokens.slots(0, 20).empty());
+    for (int i = 0; i <= 10; ++i) tokens.set(i, std::to_string(i));
+    EXPECT_EQ(tokens.slots(9, 20).size(), 2U);
+    EXPECT_EQ(tokens.slots(9, 20).back(), "10");
+    EXPECT_TRUE(tokens.slots(11, 20).empty() && tokens.slots(5, 4).empty());
+    EXPECT_EQ(faultOf([&] { (void)tokens.slots(-1, 3); }), 9);
+    EXPECT_EQ(faultOf([&] { (void)tokens.slots(3, 21); }), 9);
+}
+
 // A clear leaves the old texts in their memory; nothing of them may come back.
 TEST(SlotArray, MakesClearedSlotsAnewAndEmpty) {
     SlotArray<std::string, 20> tokens;

@@ -38,6 +38,7 @@ TEST(Split, KeepsEmptyPieces) {
     EXPECT_EQ(split(",4,", ','), (Pieces{"", "4", ""}));
     EXPECT_EQ(split("", ','), (Pieces{""}));
     EXPECT_EQ(joined(split(",4,,6", ','), ","), ",4,,6");
+    EXPECT_EQ(joined(std::vector<std::string>{"", "+", "", "3/4", "x", ""}), "+3/4x");
 }
 
 TEST(Replaced, GoesOnBehindWhatItPutIn) {

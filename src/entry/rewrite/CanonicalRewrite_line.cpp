@@ -1,5 +1,6 @@
 // CanonicalLine: the engine's tokens as the line that the student reads.
 #include "CanonicalRewrite.hpp"
+#include "TextTools.hpp"
 #include "TokenPredicates.hpp"
 #include "Workspace.hpp"
 
@@ -68,12 +69,7 @@ private:
 
 // The marks in the gaps and the cells; the slots between are empty.
 std::string joinedCells() {
-    std::string line;
-    const int end = std::min<int>(ws.CanonLast, ws.CanonTokens.used() - 1);
-    for (int i = 0; i <= end; ++i) {
-        if (!ws.CanonTokens[i].empty()) line += ws.CanonTokens[i];
-    }
-    return line;
+    return joined(ws.CanonTokens.slots(0, std::min<int>(ws.CanonLast, lastToken)));
 }
 
 }  // namespace
