@@ -52,15 +52,31 @@ std::string bare(const std::string& text) {
 }
 
 // The hint is given once in a problem, when order alone changes a polynomial without parentheses.
+bool hintIsOpen(const TermPass& pass) {
+    return !pass.variable.empty() && ws.MaxDepth == 0 && !ws.LeadingTermHintShown[ws.MaxDepth];
+}
+
 bool hintIsDue(const TermPass& pass, const std::string& ordered) {
-    if (pass.variable.empty() || !contains(ordered, pass.variable) || contains(ordered, "*")) return false;
-    if (ws.MaxDepth != 0 || ws.LeadingTermHintShown[ws.MaxDepth]) return false;
+    if (!contains(ordered, pass.variable) || contains(ordered, "*")) return false;
     return bare(ordered) > bare(pass.textBefore);
 }
 
 void commitText(const std::string& text, bool silent) {
     ExplodeTokens(text);
     CommitStep({.silent = silent});
+}
+
+// The hint with the ordered polynomial as a step of its own; false if it is not due.
+bool commitHint(const TermPass& pass) {
+    if (!hintIsOpen(pass)) return false;
+    const std::string ordered = OrderedPolynomialText(pass.group);
+    if (!hintIsDue(pass, ordered)) return false;
+    const std::string noteKept = ws.CurrentNote;
+    ws.LeadingTermHintShown[ws.MaxDepth] = true;
+    ws.CurrentNote = leadingTermHint;
+    commitText(ordered, false);
+    ws.CurrentNote = noteKept;
+    return true;
 }
 
 }  // namespace
@@ -83,13 +99,7 @@ std::string rebuiltText(const TermPass& pass) {
 }
 
 void commitRebuilt(const TermPass& pass, const std::string& newText, bool silent) {
-    const std::string ordered = OrderedPolynomialText(pass.group);
-    if (!silent && hintIsDue(pass, ordered)) {
-        const std::string noteKept = ws.CurrentNote;
-        ws.LeadingTermHintShown[ws.MaxDepth] = true;
-        ws.CurrentNote = leadingTermHint;
-        commitText(ordered, false);
-        ws.CurrentNote = noteKept;
+    if (!silent && commitHint(pass)) {
         commitText(newText, true);
         commitText(OrderedPolynomialText(pass.group), true);
         return;
