@@ -203,6 +203,11 @@ std::int32_t longOf(std::string_view text) {
 }
 
 std::int32_t longOf(double value) {
+    // Away from a half no digit decides.
+    const double below = std::floor(value);
+    const double part = value - below;
+    if (std::fabs(value) < 1e6 && std::fabs(part - 0.5) > 1e-3)
+        return static_cast<std::int32_t>(below) + (part > 0.5 ? 1 : 0);
     const double whole = Round(value, 0);
     if (!(whole >= -2147483648.0 && whole <= 2147483647.0)) raise(FaultNumber::Overflow);
     return static_cast<std::int32_t>(whole);

@@ -53,8 +53,14 @@ void DrawingSurface::addText(std::string_view text, double width) {
         run->text += text;
         runEnd_ += width;
     } else if (text.find_first_not_of(' ') != std::string_view::npos) {  // blanks alone draw nothing
-        drawn_.push_back(Glyphs{std::string(text), across(CurrentX), down(CurrentY), FontFace, FontSize, ForeColor});
-        runEnd_ = across(CurrentX) + width;
+        Glyphs& begun = std::get<Glyphs>(drawn_.emplace_back(std::in_place_type<Glyphs>));
+        begun.text = text;
+        begun.x = across(CurrentX);
+        begun.y = down(CurrentY);
+        begun.face = FontFace;
+        begun.size = FontSize;
+        begun.colour = ForeColor;
+        runEnd_ = begun.x + width;
     }
 }
 

@@ -23,6 +23,11 @@ Digits digitsOf(const std::string& number) {
     return {lenientValueOf(replaced(number, ".", "")), static_cast<int>(number.size() - point - 1)};
 }
 
+// Whole and short, and no negative zero: then its text says the same as the number.
+bool isAsWritten(float number) {
+    return std::fabs(number) < 1e7F && number == std::trunc(number) && !(number == 0.0F && std::signbit(number));
+}
+
 }  // namespace
 
 std::string lettersOf(const ExprTerm& term) {
@@ -34,7 +39,7 @@ std::string lettersBelow(const ExprTerm& term) {
 }
 
 bool isConstantPower(const ExprTerm& term) {
-    return lettersOf(term).substr(0, 1) == "^";
+    return term.numText.starts_with('^') && lettersOf(term).starts_with('^');
 }
 
 WrittenNumbers numbersOf(const ExprTerm& term) {
@@ -44,6 +49,8 @@ WrittenNumbers numbersOf(const ExprTerm& term) {
 }
 
 TermNumbers valuesOf(const ExprTerm& term) {
+    if (term.fractionText.empty() && isAsWritten(term.numerator) && isAsWritten(term.denominator))
+        return {static_cast<double>(term.numerator), static_cast<double>(term.denominator)};
     const WrittenNumbers written = numbersOf(term);
     const double size = lenientValueOf(written.above);
     return {term.numerator < 0 ? -size : size, lenientValueOf(written.below)};

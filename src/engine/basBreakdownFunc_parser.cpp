@@ -47,9 +47,19 @@ private:
         const int index = termCount(depth, ws.CurrentGroup);
         return ws.TermTable[ws.CurrentSide].slot(depth).slot(ws.CurrentGroup).slot(index);
     }
+    // A record is fresh when its slot is made; only one that was there before is emptied.
+    template <class Row>
+    static auto& freshRecord(Row& row, int index) {
+        if (index < row.used()) row.clear(index, index);
+        return row.slot(index);
+    }
+    static ExprTerm& freshTerm() {
+        const int depth = ws.CurrentDepth;
+        TermRow& row = ws.TermTable[ws.CurrentSide].slot(depth).slot(ws.CurrentGroup);
+        return freshRecord(row, termCount(depth, ws.CurrentGroup));
+    }
     static ExprGroup& openRecord(int depth, int index) {
-        ExprGroup& record = ws.GroupTable[depth].slot(index);
-        record = ExprGroup();
+        ExprGroup& record = freshRecord(ws.GroupTable[depth], index);
         record.closeIndex = record.powerIndex = ws.TokenLast;
         return record;
     }
@@ -104,8 +114,7 @@ private:
         slot_ = 1;
         letters_.clear();
         termCount(ws.CurrentDepth, ws.CurrentGroup) += 1;
-        term() = ExprTerm();
-        term().lead = token;
+        freshTerm().lead = token;
         if (isMark(token, '*')) ws.GroupProduct[ws.CurrentDepth][ws.CurrentGroup] = true;
     }
 

@@ -122,6 +122,8 @@ TEST(LongOf, RoundsHalvesToTheEvenNeighbourAndFitsThirtyTwoBits) {
     EXPECT_EQ(longOf("0.5"), 0);
     EXPECT_EQ(longOf("149.5"), 150);
     EXPECT_EQ(longOf("2.50001"), 3);
+    EXPECT_EQ(longOf("-2.4"), -2);
+    EXPECT_EQ(longOf("-2.6"), -3);
     EXPECT_EQ(longOf("2147483647.4"), std::numeric_limits<std::int32_t>::max());
     EXPECT_EQ(longOf("-2147483648.5"), std::numeric_limits<std::int32_t>::min());
     EXPECT_EQ(faultOf([] { (void)longOf("2147483647.5"); }), 6);
