@@ -151,7 +151,7 @@ QWidget* PracticeTestDialog::outline() {
     auto* grid = new QGridLayout;
     grid->setColumnStretch(1, 1);
     grid->addWidget(new QLabel(QStringLiteral("Topic"), group), 0, 1);
-    grid->addWidget(new QLabel(QStringLiteral("Number of Problems"), group), 0, 2, 1, 2);
+    grid->addWidget(new QLabel(QStringLiteral("Number of Problems "), group), 0, 2, 1, 2);
     for (int number = 0; number <= PracticeTestWindow::lastSection; ++number) addSection(number, *grid);
     layout->addLayout(grid);
     layout->addStretch();
