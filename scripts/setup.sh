@@ -31,6 +31,7 @@ installed() {
         libgtest-dev) present /usr/include/gtest/gtest.h /usr/local/include/gtest/gtest.h ;;
         libcli11-dev) present /usr/include/CLI/CLI.hpp /usr/local/include/CLI/CLI.hpp ;;
         nlohmann-json3-dev) present /usr/include/nlohmann/json.hpp /usr/local/include/nlohmann/json.hpp ;;
+        libboost-dev) present /usr/include/boost/multiprecision/cpp_int.hpp /usr/local/include/boost/multiprecision/cpp_int.hpp ;;
         qt6-base-dev) present /usr/lib*/cmake/Qt6Widgets /usr/lib/*/cmake/Qt6Widgets ;;
         qt6-svg-dev) present /usr/lib*/cmake/Qt6Svg /usr/lib/*/cmake/Qt6Svg ;;
         desktop-file-utils) have desktop-file-validate ;;
@@ -48,7 +49,7 @@ installed() {
 }
 
 # shellcheck disable=SC2034  # read by the scripts that source this one
-readonly build_packages=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev)
+readonly build_packages=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev libboost-dev)
 readonly desk_packages=(qt6-base-dev qt6-svg-dev fonts-texgyre)
 # shellcheck disable=SC2034
 readonly check_packages=(clang clang-format desktop-file-utils appstream shared-mime-info lintian xvfb xdotool file man-db dpkg-dev)
