@@ -46,6 +46,15 @@ constexpr std::array<int, 95> explanationWidths{
     611, 611, 389, 444, 333, 611, 556, 833, 500, 556, 500, 606, 232, 472, 450,
 };
 
+constexpr std::array<int, 95> noteWidths{
+    250, 278, 371, 500, 500, 840, 640, 208, 456, 456, 500, 760, 250, 333, 250, 486,
+    500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 250, 250, 767, 760, 767, 444,
+    747, 778, 611, 709, 774, 611, 556, 763, 832, 337, 333, 726, 611, 946, 831, 786,
+    604, 786, 668, 525, 613, 778, 722, 1000, 667, 667, 667, 428, 606, 428, 606, 100,
+    600, 500, 553, 444, 611, 479, 333, 556, 582, 287, 234, 556, 291, 883, 582, 546,
+    601, 560, 395, 424, 326, 603, 565, 834, 516, 556, 500, 606, 208, 441, 450,
+};
+
 constexpr std::array<int, 95> sansWidths{
     278, 278, 355, 556, 556, 889, 667, 191, 333, 333, 389, 584, 278, 333, 278, 278,
     556, 556, 556, 556, 556, 556, 556, 556, 556, 556, 278, 278, 584, 584, 584, 556,
@@ -70,10 +79,15 @@ const std::array<int, 95>& widthsOf(Face face) {
         case Face::Halvern: return halvernWidths;
         case Face::Heading: return headingWidths;
         case Face::Explanation: return explanationWidths;
+        case Face::Note: return noteWidths;
         case Face::Sans: return sansWidths;
         case Face::Courier: break;
     }
     return courierWidths;
+}
+
+bool isProse(Face face) {
+    return face == Face::Explanation || face == Face::Note;
 }
 
 // Of the character that begins with a byte beyond ASCII, in a heading.
@@ -89,7 +103,7 @@ int headingWidth(std::string_view character) {
 double emOf(Face face, double points) {
     // 20 units at 18 points, where sheets are written, and 11 at 8 points, where exponents are.
     if (face == Face::Halvern || face == Face::Heading) return 0.9 * points + 3.8;
-    if (face == Face::Explanation) return points + 2;
+    if (isProse(face)) return points + 2;
     return points * 96 / 72;
 }
 
@@ -99,7 +113,7 @@ double ascentOf(Face face, double points) {
 
 double lineHeightOf(Face face, double points) {
     // Explanations are prose with fractions in it, which need more room between the lines.
-    return (face == Face::Explanation ? 1.45 : 1.2) * emOf(face, points);
+    return (isProse(face) ? 1.45 : 1.2) * emOf(face, points);
 }
 
 double textWidth(Face face, std::string_view text, double points) {

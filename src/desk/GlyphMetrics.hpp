@@ -2,8 +2,8 @@
 // alike because none of them asks a font.
 //
 // The figures for letters and digits are the advance widths of TeX Gyre Schola (HalvernFont and headings) and
-// TeX Gyre Pagella Bold (the explanation face), of TeX Gyre Heros and TeX Gyre Cursor Bold (the faces
-// of the graph), in thousandths of an em, read from the fonts. The mathematical shapes of HalvernFont
+// TeX Gyre Pagella Bold and Regular (the faces of explanations), of TeX Gyre Heros and TeX Gyre Cursor
+// Bold (the faces of the graph), in thousandths of an em, read from the fonts. The mathematical shapes of HalvernFont
 // are our own drawings and so are their widths.
 //
 // A unit is a 96th of an inch on paper and a pixel of an ordinary screen.
@@ -16,7 +16,8 @@ namespace ordwise {
 enum class Face {
     Halvern,      // the schoolbook face of the sheets
     Heading,      // the same for words that somebody has typed: no character is a sign of mathematics
-    Explanation,  // the face of the explanation window and of printed notes
+    Explanation,  // the bold face of the explanation window
+    Note,         // the same in its regular weight, for explanations on paper
     Sans,         // the face of the graph's numbers
     Courier       // the bold face of the graph's quadrants
 };

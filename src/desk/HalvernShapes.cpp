@@ -158,7 +158,8 @@ struct OwnShapes {
 }  // namespace
 
 const Shape* shapeOf(Face face, char character) {
-    if (face != Face::Halvern && face != Face::Explanation) return nullptr;  // no mathematics is written in others
+    const bool prose = face == Face::Explanation || face == Face::Note;
+    if (face != Face::Halvern && !prose) return nullptr;  // no mathematics is written in others
     static const OwnShapes own;
     switch (character) {
         case '`': return &own.pi;

@@ -1,9 +1,9 @@
 // What a run of glyphs looks like, for every painter alike: letters and digits come from a text
 // face, the signs of mathematics are our own drawings.
 //
-// The text faces are TeX Gyre Schola for HalvernFont and TeX Gyre Pagella Bold for explanations. A
-// painter that lacks them takes any serif face: each glyph is placed by itself, so a line is laid
-// out alike with every font.
+// The text faces are TeX Gyre Schola for HalvernFont and TeX Gyre Pagella for explanations, bold in the
+// window. A painter that lacks them takes any serif face: each glyph is placed by itself, so a line is
+// laid out alike with every font.
 #pragma once
 
 #include "DisplayList.hpp"

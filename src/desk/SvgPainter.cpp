@@ -36,6 +36,7 @@ const char* fontOf(Face face) {
         case Face::Halvern:
         case Face::Heading: return " font-family=\"'TeX Gyre Schola', 'Century Schoolbook', serif\"";
         case Face::Explanation: return " font-family=\"'TeX Gyre Pagella', Palatino, serif\" font-weight=\"bold\"";
+        case Face::Note: return " font-family=\"'TeX Gyre Pagella', Palatino, serif\"";
         case Face::Sans: return " font-family=\"'TeX Gyre Heros', Helvetica, Arial, sans-serif\"";
         case Face::Courier: break;
     }

@@ -45,7 +45,7 @@ int lastPrintedStep() {
 }
 
 void printExplanation(PageSurface& page, const std::string& note) {
-    page.FontFace = Face::Explanation;
+    page.FontFace = Face::Note;
     page.FontSize = explanationPoints;
     if (!note.empty()) PrintLine(note, page, true);
     page.FontSize = solutionPoints;

@@ -22,7 +22,8 @@ QString familyOf(Face face) {
     switch (face) {
         case Face::Halvern:
         case Face::Heading: return QStringLiteral("TeX Gyre Schola");
-        case Face::Explanation: return QStringLiteral("TeX Gyre Pagella");
+        case Face::Explanation:
+        case Face::Note: return QStringLiteral("TeX Gyre Pagella");
         case Face::Sans: return QStringLiteral("TeX Gyre Heros");
         case Face::Courier: break;
     }

@@ -93,7 +93,7 @@ TEST_F(PrintingTest, ExplanationsStandInBlueUnderTheirStep) {
             if (!run.text.starts_with("Note about")) continue;
             ++notes;
             EXPECT_EQ(run.colour, blue);
-            EXPECT_EQ(run.face, Face::Explanation);
+            EXPECT_EQ(run.face, Face::Note);
             EXPECT_EQ(run.size, 10);
             EXPECT_GT(stepAt, 0) << "the step went with it to this page";
             EXPECT_NEAR(run.y - stepAt, lineHeightOf(Face::Halvern, 12) + 12 * unitDown, 1e-9);
