@@ -33,8 +33,21 @@ struct GraphEquation {
     std::vector<GraphTerm> right;
 };
 
+// What the window was opened for. It stays the same while the student goes on with another problem.
+struct GraphSubject {
+    int kind = 0;  // as GraphKind: 1 a point, 2 a line through two points, 3 a solved equation
+    double x1 = 0;
+    double y1 = 0;
+    double x2 = 0;
+    double y2 = 0;
+    std::string topic;               // the title of its sheet
+    std::vector<std::string> lines;  // the problem and, where it was solved, its last line: MathMarkup
+};
+
 struct GraphWindow : DrawingSurface {
     LoadedFlag Loaded;
+    GraphSubject subject;
+    bool AskedFor = false;  // by its command; a graph that a solve opens leaves the keyboard to the paper
 
     double xMin = -20;
     double xMax = 20;
@@ -43,7 +56,8 @@ struct GraphWindow : DrawingSurface {
     double plotStep = 0.01;
     std::optional<GraphEquation> equationTerms;  // empty when the hand-over holds no equation
 
-    // Of the plot, in pixels; the desktop writes what the user made of them.
+    // Of the picture, in pixels; the desktop writes what the user made of them. The plot is the largest
+    // square in its middle, so that the squares of the grid are squares.
     double Width = 0;
     double Height = 0;
     // The plot that fills the screen; the desktop writes it before the window opens.

@@ -17,6 +17,7 @@ struct PracticeTestWindow {
     struct ListItem {
         std::string Text;
         bool Checked = false;  // the topic is in the outline
+        bool Shown = true;     // the search has found it
     };
 
     LoadedFlag Loaded;
@@ -24,6 +25,9 @@ struct PracticeTestWindow {
     int SSTab1 = 0;
     std::vector<ChooserWindow::Node> TreeView1;
     std::vector<ListItem> IndexList;  // all topics in alphabetical order
+    Control Search;                   // the search box above both
+    std::string Found;                // the best match of the search, "" for none
+    Control Label1;                   // says that nothing was found
 
     BoundedArray<Control, lastSection> Text4;        // the section's topic, "" for a free slot
     BoundedArray<ComboControl, lastSection> Combo1;  // its number of problems

@@ -27,19 +27,19 @@ ComboControl& PaperWindow::combo(int number) {
 
 MainWindow::MainWindow() {
     // clang-format off
-    Toolbar1[buttonNew]      = {"new",      "New Problem", "new", true};
-    Toolbar1[buttonSave]     = {"save",     "Save Problem", "save", false};
-    Toolbar1[buttonOpen]     = {"open",     "Load Problem", "open", true};
-    Toolbar1[buttonPrint]    = {"print",    "Print", "print", false};
-    Toolbar1[buttonPractice] = {"practice", "Practice Test", "practice", true};
-    Toolbar1[buttonGraph]    = {"graph",    "Graph", "graph", false};
-    Toolbar1[buttonSolve]    = {"solve",    "Solve!", "solve", false};
-    Toolbar1[buttonExample]  = {"example",  "Example", "example", false};
-    Toolbar1[buttonClear]    = {"clear",    "Erase", "clear", false};
-    Toolbar1[buttonRoot]     = {"root",     "Insert Root", "root", false};
-    Toolbar1[buttonPower]    = {"power",    "Insert Exponent", "power", false};
-    Toolbar1[buttonFracdec]  = {"fracdec",  "Convert Between Fraction and Decimal Format", "fracdec", true};
-    Toolbar1[buttonWeb]      = {"web",      "Halvern on the Web", "web", true};
+    Toolbar1[buttonNew]      = {"new",      "New Problem", "new", true, "New"};
+    Toolbar1[buttonSave]     = {"save",     "Save Problem", "save", false, "Save"};
+    Toolbar1[buttonOpen]     = {"open",     "Load Problem", "open", true, "Load"};
+    Toolbar1[buttonPrint]    = {"print",    "Print", "print", false, "Print"};
+    Toolbar1[buttonPractice] = {"practice", "Practice Test", "practice", true, "Test"};
+    Toolbar1[buttonGraph]    = {"graph",    "Graph", "graph", false, "Graph"};
+    Toolbar1[buttonSolve]    = {"solve",    "Solve!", "solve", false, "Solve!"};
+    Toolbar1[buttonExample]  = {"example",  "Example", "example", false, "Example"};
+    Toolbar1[buttonClear]    = {"clear",    "Erase", "clear", false, "Erase"};
+    Toolbar1[buttonRoot]     = {"root",     "Insert Root", "root", false, "Root"};
+    Toolbar1[buttonPower]    = {"power",    "Insert Exponent", "power", false, "Exponent"};
+    Toolbar1[buttonFracdec]  = {"fracdec",  "Convert Between Fraction and Decimal Format", "fracdec", true, "Convert"};
+    Toolbar1[buttonWeb]      = {"web",      "Halvern on the Web", "web", true, "Web"};
 
     mnuFile.Text = "&File";                  mnuNew.Text = "&New Problem";
     mnuPrint.Text = "&Print";                mnuPrintSetup.Text = "P&rint Setup";

@@ -98,6 +98,7 @@ struct ToolbarButton {
     std::string ToolTip;
     std::string Image;
     bool Enabled = true;
+    std::string Caption = {};  // the word that stands under the picture
 };
 
 struct MainWindow {
@@ -128,6 +129,7 @@ struct MainWindow {
     // The saved problem that was put on the desk or saved from it last: its path and its text.
     std::string ProblemFile;
     std::string ProblemFileText;
+    std::string DrawnExample;        // what Example wrote last, as it would be saved
     bool CommandLineOpened = false;  // its file was opened; from now on Load Problem asks for one
 
     Control mnuFile, mnuNew, mnuPrint, mnuPrintSetup, mnuSave, mnuLoad, mnuRecent, mnuExit;
