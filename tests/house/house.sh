@@ -26,6 +26,11 @@ sources() {
     breach "Numbers become text, and text numbers, in base/NumberText alone:" \
         "$(grep -rnE 'std::(to_string|sto[a-z]+|from_chars|to_chars)\b|\bstrto[a-z]+|\bato[filn]+\(|\bs?n?printf\(|stringstream' \
             src --include='*.?pp' | grep -vE '^src/(base/NumberText\.cpp|desk/SvgPainter\.cpp|cli/|qt/)')"
+    breach "What judges the engine shares nothing with it; src/exact/ includes its own headers and those of base/ alone:" \
+        "$(grep -rnoE '#include "[^"]+"' src/exact | while IFS= read -r line; do
+            header=${line##*include \"}
+            [ -e "src/exact/${header%\"}" ] || [ -e "src/base/${header%\"}" ] || printf '%s\n' "$line"
+        done)"
     breach "A header that is read twice must do no harm:" \
         "$(find src tests -name '*.hpp' -print0 | xargs -0 grep -L '^#pragma once')"
 }
