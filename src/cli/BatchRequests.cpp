@@ -5,6 +5,7 @@
 
 #include <exception>
 #include <functional>
+#include <new>
 
 namespace ordwise {
 namespace {
@@ -98,34 +99,48 @@ std::string dispatch(const nlohmann::json& request) {
     throw BadRequest("There is no op \"" + op + "\"; it is solve, keys or example.");
 }
 
-AnswerText errorAnswer(const char* sentence) {
+std::string errorAnswer(const char* sentence) {
     JsonText answer;
     answer.object([&] { answer.member("error").string(sentence); });
-    return {std::move(answer).take(), true};
+    return std::move(answer).take();
 }
 
-}  // namespace
-
-AnswerText answerTextOf(const nlohmann::json& request) {
+// The answer, or the error that keeps it from being given.
+template <class Answer>
+std::string answerOrError(Answer answer) {
     try {
-        return {dispatch(request)};
+        return answer();
+    } catch (const std::bad_alloc&) {
+        return errorAnswer("There is not enough memory to answer this request.");
     } catch (const std::exception& trouble) {
         return errorAnswer(trouble.what());
     }
 }
 
-AnswerText answerTextOfLine(const std::string& line) {
-    const nlohmann::json request = nlohmann::json::parse(line, nullptr, false);
-    if (request.is_discarded()) return errorAnswer("The line is no valid JSON.");
-    return answerTextOf(request);
+}  // namespace
+
+std::string answerTextOf(const nlohmann::json& request) {
+    return answerOrError([&] { return dispatch(request); });
+}
+
+std::string answerTextOfLine(std::string_view line) {
+    return answerOrError([&] {
+        const nlohmann::json request = nlohmann::json::parse(line, nullptr, false);
+        if (request.is_discarded()) throw BadRequest("The line is no valid JSON.");
+        return dispatch(request);
+    });
+}
+
+std::string answerTextOfLongLine() {
+    return errorAnswer("The line is longer than 1 MiB.");
 }
 
 Json answerRequest(const nlohmann::json& request) {
-    return Json::parse(answerTextOf(request).text);
+    return Json::parse(answerTextOf(request));
 }
 
 Json answerLine(const std::string& line) {
-    return Json::parse(answerTextOfLine(line).text);
+    return Json::parse(answerTextOfLine(line));
 }
 
 }  // namespace ordwise

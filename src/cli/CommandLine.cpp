@@ -1,19 +1,18 @@
 #include "CommandLine.hpp"
 
-#include "NumberText.hpp"
+#include "Arguments.hpp"
+#include "Batch.hpp"
+#include "Channels.hpp"
 #include "PeopleOutput.hpp"
 #include "Requests.hpp"
 
 #include <CLI/CLI.hpp>
-
-#include <unistd.h>
 
 #include <functional>
 #include <istream>
 #include <map>
 #include <ostream>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace ordwise {
@@ -26,38 +25,6 @@ std::string dumped(const Json& answer) {
     return answer.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-// "3=12" -> "3", "12"
-std::pair<std::string, std::string> assignment(const std::string& option, const std::string& text) {
-    const std::size_t equals = text.find('=');
-    if (equals == std::string::npos) throw BadRequest(option + " takes NAME=VALUE, not \"" + text + "\".");
-    return {text.substr(0, equals), text.substr(equals + 1)};
-}
-
-int numberOf(const std::string& option, const std::string& text) {
-    if (text.empty() || text.size() > 4 || text.find_first_not_of("0123456789") != std::string::npos)
-        throw BadRequest(option + " takes a whole number, not \"" + text + "\".");
-    return std::stoi(text);
-}
-
-// A problem or an answer may begin with "-", which the command line would take for an option. Such
-// arguments are marked before it reads them; no option of ours but -h has a single dash.
-constexpr char mark = '\x1f';
-
-std::vector<std::string> markedArguments(int argc, const char* const* argv) {
-    std::vector<std::string> arguments;
-    for (int i = argc - 1; i > 0; --i) {  // the reader wants them last first
-        std::string argument = argv[i];
-        const bool single = argument.size() > 1 && argument[0] == '-' && argument[1] != '-';
-        if (single && argument != "-h") argument.insert(argument.begin(), mark);
-        arguments.push_back(std::move(argument));
-    }
-    return arguments;
-}
-
-void unmark(std::string& argument) {
-    if (!argument.empty() && argument.front() == mark) argument.erase(0, 1);
-}
-
 void printOrDump(const Json& answer, bool json, std::ostream& out) {
     if (json) {
         out << dumped(answer) << '\n';
@@ -67,7 +34,8 @@ void printOrDump(const Json& answer, bool json, std::ostream& out) {
 }
 
 // The status of a command that solves, with the sentence for what was not solved.
-int solvedStatus(const Json& answer, std::ostream& err) {
+int solvedStatus(const Json& answer, std::ostream& out, std::ostream& err) {
+    out.flush();  // output that is lost is the first thing to be told
     if (wasSolved(answer)) return exitDone;
     err << "ordwise-cli: " << failureSentence(answer) << '\n';
     return exitRefused;
@@ -76,7 +44,7 @@ int solvedStatus(const Json& answer, std::ostream& err) {
 std::map<std::string, std::string> settingsOf(const std::vector<std::string>& assignments) {
     std::map<std::string, std::string> settings;
     for (const std::string& setting : assignments) {
-        const auto [key, value] = assignment("--set", setting);
+        const auto [key, value] = assignmentOf("--set", setting);
         settings[key] = value;
     }
     return settings;
@@ -91,14 +59,12 @@ struct SolveOptions {
 };
 
 void readAssignments(SolveOptions& options) {
-    unmark(options.request.problem);
-    for (std::string& answer : options.request.answers) unmark(answer);
     for (const std::string& box : options.boxes) {
-        const auto [number, content] = assignment("--box", box);
+        const auto [number, content] = assignmentOf("--box", box);
         options.request.boxes[numberOf("--box", number)] = content;
     }
     for (const std::string& combo : options.combos) {
-        const auto [number, index] = assignment("--combo", combo);
+        const auto [number, index] = assignmentOf("--combo", combo);
         options.request.combos[numberOf("--combo", number)] = numberOf("--combo", index);
     }
     options.request.settings = settingsOf(options.settings);
@@ -108,7 +74,7 @@ int runSolve(SolveOptions& options, std::ostream& out, std::ostream& err) {
     readAssignments(options);
     const Json answer = answerSolve(options.request);
     printOrDump(answer, options.json, out);
-    return solvedStatus(answer, err);
+    return solvedStatus(answer, out, err);
 }
 
 struct LoadOptions {
@@ -118,12 +84,10 @@ struct LoadOptions {
 };
 
 int runLoad(LoadOptions& options, std::ostream& out, std::ostream& err) {
-    for (std::string& answer : options.request.answers) unmark(answer);
-    unmark(options.request.file);
     options.request.settings = settingsOf(options.settings);
     const Json answer = answerLoad(options.request);
     printOrDump(answer, options.json, out);
-    return solvedStatus(answer, err);
+    return solvedStatus(answer, out, err);
 }
 
 struct ExampleOptions {
@@ -137,7 +101,7 @@ int runExample(ExampleOptions& options, std::ostream& out, std::ostream& err) {
     const Json answer = answerExample(options.request);
     printOrDump(answer, options.json, out);
     if (!options.json) out << "--seed " << options.request.seed << " makes up this problem again.\n";
-    return solvedStatus(answer, err);
+    return solvedStatus(answer, out, err);
 }
 
 struct TestOptions {
@@ -155,8 +119,7 @@ int runTest(const TestOptions& options, std::ostream& out) {
     return exitDone;
 }
 
-int runKeys(KeysRequest request, bool json, std::ostream& out) {
-    unmark(request.text);
+int runKeys(const KeysRequest& request, bool json, std::ostream& out) {
     const Json answer = answerKeys(request);
     if (json) {
         out << dumped(answer) << '\n';
@@ -176,30 +139,17 @@ int runTopics(bool json, std::ostream& out) {
     return exitDone;
 }
 
-// One answer a line, in order; a request that cannot be read makes the status 2, and the batch
-// goes on.
-int runBatch(std::istream& in, std::ostream& out, std::ostream& err) {
-    constexpr long progressEvery = 1000;
-    const bool progress = isatty(STDERR_FILENO) == 1;
-    int status = exitDone;
-    long answered = 0;
-    for (std::string line; std::getline(in, line);) {
-        if (line.empty()) continue;
-        const AnswerText answer = answerTextOfLine(line);
-        if (answer.isError) status = exitUnreadable;
-        out << answer.text << '\n';
-        // Whoever waits for an answer before he asks on gets it at once; a long file is written in blocks.
-        if (in.rdbuf()->in_avail() <= 0) out.flush();
-        if (progress && ++answered % progressEvery == 0) err << '\r' << answered << " requests answered" << std::flush;
-    }
-    if (progress && answered >= progressEvery) err << '\n';
-    return status;
-}
-
 // An option that may be given again and again, each time with one value.
 void addRepeated(CLI::App& command, const std::string& name, std::vector<std::string>& values,
                  const std::string& meaning) {
     command.add_option(name, values, meaning)->expected(1)->take_all();
+}
+
+// The seed is read by ourselves: the library takes 0x10, -1 and what is too large as well.
+void addSeed(CLI::App& command, std::uint64_t& seed, const std::string& meaning) {
+    seed = freshSeed();
+    const auto take = [&seed](const std::string& text) { seed = seedOf(text); };
+    command.add_option_function<std::string>("--seed", take, meaning)->type_name("NUMBER");
 }
 
 void addSolveOptions(CLI::App& command, SolveOptions& options) {
@@ -209,7 +159,11 @@ void addSolveOptions(CLI::App& command, SolveOptions& options) {
     addRepeated(command, "--combo", options.combos, "N=INDEX selects in ComboN");
     addRepeated(command, "--answer", options.request.answers, "Answer to the next question of the solve");
     addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
-    command.add_option("--save", options.request.saveTo, "Save the solved problem to this file");
+    const auto saveTo = [&options](const std::string& file) {
+        if (file.empty()) throw BadRequest("--save needs the name of a file.");
+        options.request.saveTo = file;
+    };
+    command.add_option_function<std::string>("--save", saveTo, "Save the solved problem to this file");
     command.add_flag("--drop-refused", options.request.dropRefused, "Type on without the refused keys");
     command.add_flag("--json", options.json, "One JSON object");
 }
@@ -222,33 +176,29 @@ void addLoadOptions(CLI::App& command, LoadOptions& options) {
 }
 
 void addExampleOptions(CLI::App& command, ExampleOptions& options) {
-    options.request.seed = freshSeed();
     command.add_option("TOPIC", options.request.topic, "Name of the topic, exactly")->required();
     command.add_flag("--complex", options.request.complex, "A harder problem");
-    command.add_option("--seed", options.request.seed, "The same number makes up the same problem");
+    addSeed(command, options.request.seed, "The same number makes up the same problem");
     addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
     command.add_flag("--json", options.json, "One JSON object");
 }
 
 void addTestOptions(CLI::App& command, TestOptions& options) {
-    options.request.seed = freshSeed();
     command.add_option("--section", options.request.sections, "TOPIC:COUNT or TOPIC:COUNT:complex, up to ten")
         ->expected(1)
         ->take_all()
         ->required();
     addRepeated(command, "--heading", options.request.heading, "A line of the heading, up to three");
     command.add_option("--key", options.request.key, "The answer key: none, answers or steps");
-    command.add_option("--versions", options.request.versions, "Make versions A, B and C of the test: 1 to 3");
-    command.add_option("--seed", options.request.seed, "The same number makes the same test");
+    const auto take = [&options](const std::string& text) { options.request.versions = numberOf("--versions", text); };
+    command.add_option_function<std::string>("--versions", take, "Make versions A, B and C of the test: 1 to 3")
+        ->type_name("COUNT");
+    addSeed(command, options.request.seed, "The same number makes the same test");
     command.add_flag("--json", options.json, "One JSON object");
 }
 
-}  // namespace
-
-int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
-    CLI::App app{"Ordwise, a tutor and solver for school mathematics, in the terminal", "ordwise-cli"};
-    app.require_subcommand(1);
-    app.set_version_flag("--version", ORDWISE_VERSION);
+// What a command was asked to do, filled by the library as it reads the arguments.
+struct Commands {
     SolveOptions solve;
     LoadOptions load;
     ExampleOptions example;
@@ -256,36 +206,52 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
     KeysRequest keys;
     bool json = false;
     std::function<int()> run;
+};
 
-    CLI::App* topics = app.add_subcommand("topics", "List the topics");
-    topics->add_flag("--json", json, "One JSON array");
-    topics->callback([&] { run = [&] { return runTopics(json, out); }; });
+void addCommands(CLI::App& app, Commands& commands, std::istream& in, std::ostream& out, std::ostream& err) {
+    const auto add = [&](const char* name, const char* meaning, std::function<int()> run) {
+        CLI::App* command = app.add_subcommand(name, meaning);
+        command->callback([&commands, run = std::move(run)] { commands.run = run; });
+        return command;
+    };
+    CLI::App* topics = add("topics", "List the topics", [&] { return runTopics(commands.json, out); });
+    topics->add_flag("--json", commands.json, "One JSON array");
 
-    CLI::App* keysCommand = app.add_subcommand("keys", "Check a text key by key");
-    keysCommand->add_option("TOPIC", keys.topic, "Name of the topic, exactly")->required();
-    keysCommand->add_option("TEXT", keys.text, "Every character a key; U+0008 is a backspace")->required();
-    keysCommand->add_flag("--json", json, "One JSON object");
-    keysCommand->callback([&] { run = [&] { return runKeys(keys, json, out); }; });
+    CLI::App* keys = add("keys", "Check a text key by key", [&] { return runKeys(commands.keys, commands.json, out); });
+    keys->add_option("TOPIC", commands.keys.topic, "Name of the topic, exactly")->required();
+    keys->add_option("TEXT", commands.keys.text, "Every character a key; U+0008 is a backspace")->required();
+    keys->add_flag("--json", commands.json, "One JSON object");
 
-    CLI::App* solveCommand = app.add_subcommand("solve", "Solve a problem");
-    addSolveOptions(*solveCommand, solve);
-    solveCommand->callback([&] { run = [&] { return runSolve(solve, out, err); }; });
+    addSolveOptions(*add("solve", "Solve a problem", [&] { return runSolve(commands.solve, out, err); }),
+                    commands.solve);
+    addLoadOptions(*add("load", "Solve a saved problem", [&] { return runLoad(commands.load, out, err); }),
+                   commands.load);
+    addExampleOptions(
+        *add("example", "Make up a problem and solve it", [&] { return runExample(commands.example, out, err); }),
+        commands.example);
+    addTestOptions(*add("test", "Make a practice test", [&] { return runTest(commands.test, out); }), commands.test);
+    add("batch", "Answer requests, one JSON object a line on standard input", [&] { return runBatch(in, out, err); });
+}
 
-    CLI::App* loadCommand = app.add_subcommand("load", "Solve a saved problem");
-    addLoadOptions(*loadCommand, load);
-    loadCommand->callback([&] { run = [&] { return runLoad(load, out, err); }; });
+std::vector<std::string> namesOf(const std::vector<CLI::App*>& commands) {
+    std::vector<std::string> names;
+    for (const CLI::App* command : commands) names.push_back(command->get_name());
+    return names;
+}
 
-    CLI::App* exampleCommand = app.add_subcommand("example", "Make up a problem and solve it");
-    addExampleOptions(*exampleCommand, example);
-    exampleCommand->callback([&] { run = [&] { return runExample(example, out, err); }; });
-
-    CLI::App* testCommand = app.add_subcommand("test", "Make a practice test");
-    addTestOptions(*testCommand, test);
-    testCommand->callback([&] { run = [&] { return runTest(test, out); }; });
-
-    CLI::App* batch = app.add_subcommand("batch", "Answer requests, one JSON object a line on standard input");
-    batch->callback([&] { run = [&] { return runBatch(in, out, err); }; });
-
+// Reads the arguments and does what they say. Throws what is told by runCommandLine.
+int runArguments(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
+    CLI::App app{"Ordwise, a tutor and solver for school mathematics, in the terminal", "ordwise-cli"};
+    app.require_subcommand(1);
+    app.set_version_flag("--version", ORDWISE_VERSION);
+    Commands commands;
+    addCommands(app, commands, in, out, err);
+    const std::vector<CLI::App*> all = app.get_subcommands([](const CLI::App*) { return true; });
+    for (CLI::App* command : all) {
+        for (CLI::Option* option : command->get_options()) option->transform(unmarked, "");
+    }
+    const std::string complaint = commandComplaint(argc, argv, namesOf(all));
+    if (!complaint.empty()) throw BadRequest(complaint);
     try {
         app.parse(markedArguments(argc, argv));
     } catch (const CLI::CallForHelp&) {
@@ -295,17 +261,30 @@ int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ost
         out << "ordwise-cli " << ORDWISE_VERSION << '\n';
         return exitDone;
     } catch (const CLI::ParseError& trouble) {
-        err << "ordwise-cli: " << trouble.what() << '\n';
-        return exitUnreadable;
+        throw BadRequest(withoutMarks(trouble.what()));
     }
+    return commands.run();
+}
+
+}  // namespace
+
+int runCommandLine(int argc, const char* const* argv, std::istream& in, std::ostream& out, std::ostream& err) {
+    const auto told = [&err](const char* sentence, int status) {
+        err << "ordwise-cli: " << sentence << '\n';
+        return status;
+    };
     try {
-        return run();
-    } catch (const BadRequest& trouble) {
-        err << "ordwise-cli: " << trouble.what() << '\n';
-        return exitUnreadable;
+        const int status = runArguments(argc, argv, in, out, err);
+        out.flush();
+        return status;
     } catch (const AnswersUsedUp& trouble) {
-        err << "ordwise-cli: " << trouble.what() << '\n';
-        return exitRefused;
+        return told(trouble.what(), exitRefused);
+    } catch (const BadRequest& trouble) {
+        return told(trouble.what(), exitUnreadable);
+    } catch (const ChannelFailure& trouble) {
+        return told(trouble.what(), exitUnreadable);
+    } catch (const std::bad_alloc&) {
+        return told("There is not enough memory.", exitUnreadable);
     }
 }
 

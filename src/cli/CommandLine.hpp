@@ -8,7 +8,7 @@ namespace ordwise {
 enum ExitStatus {
     exitDone = 0,
     exitRefused = 1,     // the problem was refused or its solve ended in a message box
-    exitUnreadable = 2,  // the command line, a file or a request could not be read
+    exitUnreadable = 2,  // the command line or a file could not be read, or input or output failed
 };
 
 // Runs one command and returns its exit status. Results go to `out`, every failure as one sentence

@@ -27,19 +27,24 @@ std::size_t distance(const std::string& a, const std::string& b) {
 
 }  // namespace
 
-std::vector<std::string> nearestTopics(std::string_view name, std::size_t count) {
+std::vector<std::string> nearestNames(std::string_view name, const std::vector<std::string>& names, std::size_t count) {
     constexpr std::size_t longestCompared = 80;
     const std::string wanted = lowered(name.substr(0, longestCompared));
     std::vector<std::pair<std::size_t, std::string>> ranked;
-    for (const std::string_view topic : topicNames()) {
-        const std::string candidate = lowered(topic);
+    for (const std::string& each : names) {
+        const std::string candidate = lowered(each);
         const bool holds = !wanted.empty() && contains(candidate, wanted);
-        ranked.emplace_back(holds ? 0 : distance(wanted, candidate), topic);
+        ranked.emplace_back(holds ? 0 : distance(wanted, candidate), each);
     }
     std::stable_sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-    std::vector<std::string> names;
-    for (std::size_t i = 0; i < ranked.size() && i < count; ++i) names.push_back(ranked[i].second);
-    return names;
+    std::vector<std::string> nearest;
+    for (std::size_t i = 0; i < ranked.size() && i < count; ++i) nearest.push_back(ranked[i].second);
+    return nearest;
+}
+
+std::vector<std::string> nearestTopics(std::string_view name, std::size_t count) {
+    const auto topics = topicNames();
+    return nearestNames(name, {topics.begin(), topics.end()}, count);
 }
 
 std::string unknownTopicSentence(std::string_view name) {

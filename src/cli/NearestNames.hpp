@@ -1,4 +1,4 @@
-// Which topic was meant by a name that is none.
+// Which topic or command was meant by a name that is none.
 #pragma once
 
 #include <string>
@@ -7,8 +7,11 @@
 
 namespace ordwise {
 
-// Up to `count` topic names, the nearest first: names that hold the text or begin like it before
+// Up to `count` of the names, the nearest first: names that hold the text or begin like it before
 // names that differ in a few letters.
+[[nodiscard]] std::vector<std::string> nearestNames(std::string_view name, const std::vector<std::string>& names,
+                                                    std::size_t count);
+// The same of all topics.
 [[nodiscard]] std::vector<std::string> nearestTopics(std::string_view name, std::size_t count = 3);
 
 // e.g. There is no topic "Arithmatic". The nearest are "Arithmetic", ...

@@ -8,6 +8,7 @@
 #include <map>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ordwise {
@@ -85,14 +86,11 @@ struct ExampleRequest {
 // A request of a batch: {"op": "solve", "keys" or "example", "topic": ..., ...}. Never throws for bad input:
 // a request that cannot be read is answered with {"error": "..."}.
 [[nodiscard]] nlohmann::ordered_json answerRequest(const nlohmann::json& request);
-// The same as text, and whether it is an error.
-struct AnswerText {
-    std::string text;
-    bool isError = false;
-};
-[[nodiscard]] AnswerText answerTextOf(const nlohmann::json& request);
-// The same for one line of text.
-[[nodiscard]] AnswerText answerTextOfLine(const std::string& line);
+// The same as text.
+[[nodiscard]] std::string answerTextOf(const nlohmann::json& request);
+// The same for one line of text, and for one that was too long to be kept.
+[[nodiscard]] std::string answerTextOfLine(std::string_view line);
+[[nodiscard]] std::string answerTextOfLongLine();
 [[nodiscard]] nlohmann::ordered_json answerLine(const std::string& line);
 
 // Whether a solve came to its end: no key or box refused, Solve enabled, no message box.

@@ -1,10 +1,22 @@
+#include "Channels.hpp"
 #include "CommandLine.hpp"
+#include "DiskFiles.hpp"
 
+#include <unistd.h>
+
+#include <csignal>
 #include <iostream>
 
 int main(int argc, char** argv) {
-    // Nothing here reads or writes with stdio; a batch decides itself when its answers are due.
-    std::ios::sync_with_stdio(false);
-    std::cin.tie(nullptr);
-    return ordwise::runCommandLine(argc, argv, std::cin, std::cout, std::cerr);
+    ordwise::prepareProcess();
+    std::signal(SIGPIPE, SIG_IGN);  // an output that nobody reads any more is told like any other that is lost
+    ordwise::InputChannel from(STDIN_FILENO);
+    ordwise::OutputChannel to(STDOUT_FILENO);
+    std::istream in(&from);
+    std::ostream out(&to);
+    in.exceptions(std::ios::badbit);
+    out.exceptions(std::ios::badbit);
+    // Whoever waits for an answer before he asks on gets it at once; a long file is written in blocks.
+    from.beforeWaiting = [&out] { out.flush(); };
+    return ordwise::runCommandLine(argc, argv, in, out, std::cerr);
 }

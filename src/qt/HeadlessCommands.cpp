@@ -94,8 +94,10 @@ QByteArray inputOf(const QString& name) {
     QFile input(name);
     const bool opened = name.isEmpty() || name == QStringLiteral("-") ? input.open(stdin, QIODevice::ReadOnly)
                                                                       : input.open(QIODevice::ReadOnly);
-    if (!opened) throw Misspelled("The file with the practice tests cannot be read.");
-    return input.readAll();
+    QByteArray bytes;
+    if (opened) bytes = input.readAll();
+    if (input.error() != QFileDevice::NoError) throw Misspelled("The file with the practice tests cannot be read.");
+    return bytes;
 }
 
 CommandEnd printTestsOfInput(const QCommandLineParser& parser) {

@@ -1,4 +1,5 @@
 // ordwise, the desktop program.
+#include "DiskFiles.hpp"
 #include "EndingSignals.hpp"
 #include "FrameWindow.hpp"
 #include "FreshProgram.hpp"
@@ -44,6 +45,7 @@ int runDesk(const QStringList& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    ordwise::prepareProcess();
     if (ordwise::needsNoDisplay(argc, argv)) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         // What is said on standard error is ours, not a remark about a desktop that is not needed.

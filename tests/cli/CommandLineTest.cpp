@@ -153,6 +153,7 @@ TEST(Batch, AnswersEveryLineInOrderAndGoesOnAfterABadOne) {
                                 "{\"op\":\"solve\",\"topic\":\"Arithmatic\",\"problem\":\"2+3\"}\n"
                                 "{\"op\":\"solve\",\"topic\":\"Arithmetic\",\"boxes\":{\"1\":[]}}\n"
                                 "{\"op\":\"keys\",\"topic\":\"Arithmetic\",\"text\":\"2+\"}\n");
+    EXPECT_EQ(outcome.status, 0) << "an error is an answer";
     const auto answers = linesOf(outcome.out);
     ASSERT_EQ(answers.size(), 7U) << outcome.out;
     EXPECT_NE(answers.front().find("\"line\":\"5\""), std::string::npos) << answers.front();

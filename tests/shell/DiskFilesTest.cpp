@@ -18,9 +18,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Disk : public testing::Test {
+// Everything holds on a disk that knows files without a name and on one that does not.
+class Disk : public testing::TestWithParam<bool> {
 protected:
-    DiskFiles files;
+    DiskFiles files{GetParam()};
     fs::path directory;
 
     void SetUp() override {
@@ -37,7 +38,7 @@ protected:
     std::ptrdiff_t count() const { return std::distance(fs::directory_iterator(directory), fs::directory_iterator()); }
 };
 
-TEST_F(Disk, KeepsAnyBytesAndTheRightsOfTheFile) {
+TEST_P(Disk, KeepsAnyBytesAndTheRightsOfTheFile) {
     const std::string bytes = std::string("a\0b\r\n\xff", 6);
     ASSERT_EQ(files.write(path("a"), "old"), "");
     fs::permissions(path("a"), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
@@ -48,7 +49,7 @@ TEST_F(Disk, KeepsAnyBytesAndTheRightsOfTheFile) {
     EXPECT_EQ(count(), 1) << "nothing is left beside the file";
 }
 
-TEST_F(Disk, ReplacesWhatALinkPointsTo) {
+TEST_P(Disk, ReplacesWhatALinkPointsTo) {
     ASSERT_EQ(files.write(path("real"), "old"), "");
     fs::create_symlink(path("real"), path("link"));
     ASSERT_EQ(files.write(path("link"), "new"), "");
@@ -56,7 +57,24 @@ TEST_F(Disk, ReplacesWhatALinkPointsTo) {
     EXPECT_EQ(files.read(path("real")), "new");
 }
 
-TEST_F(Disk, SaysWhyItCouldNotWrite) {
+TEST_P(Disk, ReplacesNothingButRegularFilesThatMayBeWritten) {
+    ASSERT_EQ(files.write(path("read-only"), "old"), "");
+    fs::permissions(path("read-only"), fs::perms::owner_read);
+    ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
+    fs::create_symlink("/dev/null", path("device"));
+    fs::create_symlink(path("none"), path("nowhere"));
+    for (const auto& [name, reason] : {std::pair{"read-only", "It is read-only."},
+                                       {"pipe", "It is no regular file."},
+                                       {"device", "It is no regular file."},
+                                       {"nowhere", "It is a link that leads nowhere."}})
+        EXPECT_EQ(files.write(path(name), "new"), "\"" + path(name) + "\" could not be written: " + reason);
+    EXPECT_EQ(files.read(path("read-only")), "old");
+    EXPECT_TRUE(fs::is_fifo(path("pipe")));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_EQ(count(), 4) << "nothing is made where the link leads";
+}
+
+TEST_P(Disk, SaysWhyItCouldNotWrite) {
     EXPECT_EQ(files.write(path("none/a"), "x"),
               "\"" + path("none/a") + "\" could not be written: No such file or directory.");
     fs::create_directory(path("directory"));
@@ -64,7 +82,7 @@ TEST_F(Disk, SaysWhyItCouldNotWrite) {
     EXPECT_EQ(count(), 1);
 }
 
-TEST_F(Disk, ReadsPlainFilesOfOurSizeOnly) {
+TEST_P(Disk, ReadsPlainFilesOfOurSizeOnly) {
     EXPECT_EQ(files.read(path("none")), std::nullopt);
     EXPECT_EQ(files.read(directory.string()), std::nullopt);
     ASSERT_EQ(::mkfifo(path("pipe").c_str(), 0600), 0);
@@ -77,15 +95,15 @@ TEST_F(Disk, ReadsPlainFilesOfOurSizeOnly) {
 }
 
 // A disk that is full half way through, as a limit on the size of files makes it.
-TEST_F(Disk, LeavesTheOldFileWholeWhenTheDiskIsFull) {
+TEST_P(Disk, LeavesTheOldFileWholeWhenTheDiskIsFull) {
     const std::string old(100, 'o');
     ASSERT_EQ(files.write(path("a"), old), "");
     const pid_t child = ::fork();
     ASSERT_GE(child, 0);
     if (child == 0) {
+        prepareProcess();
         const rlimit limit{8192, 8192};
         ::setrlimit(RLIMIT_FSIZE, &limit);
-        std::signal(SIGXFSZ, SIG_IGN);
         ::_exit(files.write(path("a"), std::string(100000, 'n')).empty() ? 1 : 0);
     }
     int status = 0;
@@ -95,7 +113,7 @@ TEST_F(Disk, LeavesTheOldFileWholeWhenTheDiskIsFull) {
     EXPECT_EQ(count(), 1);
 }
 
-TEST_F(Disk, LeavesTheOldOrTheNewFileWholeWhenKilled) {
+TEST_P(Disk, LeavesTheOldOrTheNewFileWholeWhenKilled) {
     const std::string contents[] = {std::string(200000, 'a'), std::string(300000, 'b')};
     ASSERT_EQ(files.write(path("a"), contents[0]), "");
     int newer = 0;
@@ -114,7 +132,12 @@ TEST_F(Disk, LeavesTheOldOrTheNewFileWholeWhenKilled) {
         newer += found == contents[1] ? 1 : 0;
     }
     EXPECT_GT(newer, 0) << "no write ever came to its end";
+    ASSERT_EQ(files.write(path("a"), "last"), "");
+    EXPECT_EQ(count(), 1) << "what the kills left is gone with the next save";
 }
+
+INSTANTIATE_TEST_SUITE_P(Named, Disk, testing::Values(false));
+INSTANTIATE_TEST_SUITE_P(Unnamed, Disk, testing::Values(true));
 
 TEST(UserFolders, FollowTheConventionOfTheDesktop) {
     const auto foldersOf = [](std::map<std::string, std::string> environment) {
