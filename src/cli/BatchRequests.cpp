@@ -48,6 +48,16 @@ int wholeNumber(const std::string& text, const std::string& name) {
     return std::stoi(text);
 }
 
+// A list of texts, or of what can be read as one.
+std::vector<std::string> listMember(const nlohmann::json& request, const char* name) {
+    std::vector<std::string> texts;
+    const nlohmann::json* list = member(request, name);
+    if (list == nullptr) return texts;
+    if (!list->is_array()) throw BadRequest("\"" + std::string(name) + "\" must be an array.");
+    for (const nlohmann::json& text : *list) texts.push_back(plainText(text, name));
+    return texts;
+}
+
 void eachMember(const nlohmann::json& request, const char* name,
                 const std::function<void(const std::string& key, const std::string& value)>& take) {
     const nlohmann::json* object = member(request, name);
@@ -69,10 +79,8 @@ SolveRequest solveRequest(const nlohmann::json& request) {
     });
     eachMember(request, "settings",
                [&](const std::string& key, const std::string& value) { result.settings[key] = value; });
-    if (const nlohmann::json* answers = member(request, "answers")) {
-        if (!answers->is_array()) throw BadRequest("\"answers\" must be an array.");
-        for (const nlohmann::json& answer : *answers) result.answers.push_back(plainText(answer, "answers"));
-    }
+    result.answers = listMember(request, "answers");
+    result.forms = listMember(request, "forms");
     return result;
 }
 
@@ -87,6 +95,7 @@ ExampleRequest exampleRequest(const nlohmann::json& request) {
     }
     eachMember(request, "settings",
                [&](const std::string& key, const std::string& value) { result.settings[key] = value; });
+    result.forms = listMember(request, "forms");
     return result;
 }
 

@@ -152,6 +152,12 @@ void addSeed(CLI::App& command, std::uint64_t& seed, const std::string& meaning)
     command.add_option_function<std::string>("--seed", take, meaning)->type_name("NUMBER");
 }
 
+void addForms(CLI::App& command, std::vector<std::string>& forms) {
+    command.add_option("--forms", forms, "Each line also as latex, mathml, spoken or plain, FORM[,FORM]...")
+        ->delimiter(',')
+        ->allow_extra_args(false);
+}
+
 void addSolveOptions(CLI::App& command, SolveOptions& options) {
     command.add_option("TOPIC", options.request.topic, "Name of the topic, exactly")->required();
     command.add_option("PROBLEM", options.request.problem, "The problem, flat (3/4+x^2) or as the paper draws it");
@@ -165,6 +171,7 @@ void addSolveOptions(CLI::App& command, SolveOptions& options) {
     };
     command.add_option_function<std::string>("--save", saveTo, "Save the solved problem to this file");
     command.add_flag("--drop-refused", options.request.dropRefused, "Type on without the refused keys");
+    addForms(command, options.request.forms);
     command.add_flag("--json", options.json, "One JSON object");
 }
 
@@ -172,6 +179,7 @@ void addLoadOptions(CLI::App& command, LoadOptions& options) {
     command.add_option("FILE", options.request.file, "A saved problem")->required();
     addRepeated(command, "--answer", options.request.answers, "Answer to the next question of the solve");
     addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
+    addForms(command, options.request.forms);
     command.add_flag("--json", options.json, "One JSON object");
 }
 
@@ -180,6 +188,7 @@ void addExampleOptions(CLI::App& command, ExampleOptions& options) {
     command.add_flag("--complex", options.request.complex, "A harder problem");
     addSeed(command, options.request.seed, "The same number makes up the same problem");
     addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
+    addForms(command, options.request.forms);
     command.add_flag("--json", options.json, "One JSON object");
 }
 

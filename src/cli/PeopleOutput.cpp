@@ -1,7 +1,7 @@
 #include "PeopleOutput.hpp"
 
+#include "PlainForm.hpp"
 #include "Requests.hpp"
-#include "TerminalText.hpp"
 
 #include <iomanip>
 #include <ostream>
@@ -33,13 +33,22 @@ void printWrapped(const std::string& text, const std::string& indent, std::ostre
     }
 }
 
+// Each form of a line that was asked for, under its name, in one piece: it is to be copied.
+void printForms(const nlohmann::ordered_json& step, const char* member, std::ostream& out) {
+    if (!step.contains(member)) return;
+    for (const auto& [name, text] : step.at(member).items())
+        out << "    " << name << ": " << text.get<std::string>() << '\n';
+}
+
 }  // namespace
 
 void printSolution(const nlohmann::ordered_json& answer, std::ostream& out) {
     const auto& steps = answer.at("steps");
     for (const auto& step : steps) {
-        out << terminalText(textIn(step, "line")) << '\n';
-        printWrapped(terminalText(textIn(step, "note")), "    ", out);
+        out << plainText(textIn(step, "line")) << '\n';
+        printForms(step, "forms", out);
+        printWrapped(plainText(textIn(step, "note")), "    ", out);
+        printForms(step, "noteForms", out);
     }
     const auto& graph = answer.at("graph");
     if (!graph.is_null() && steps.empty()) out << "The graph window shows the problem.\n";
@@ -61,7 +70,7 @@ void printKeys(const nlohmann::ordered_json& answer, std::ostream& out) {
 
 void printTest(const nlohmann::ordered_json& answer, std::uint64_t seed, std::ostream& out) {
     const auto printLines = [&](const nlohmann::ordered_json& lines) {
-        for (const auto& line : lines) out << terminalText(line.get<std::string>()) << '\n';
+        for (const auto& line : lines) out << plainText(line.get<std::string>()) << '\n';
     };
     if (!answer.contains("versions")) {
         printLines(answer.at("heading"));

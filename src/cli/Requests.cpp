@@ -16,6 +16,7 @@
 #include "SettingsTable.hpp"
 #include "SolveDriver.hpp"
 #include "TextTools.hpp"
+#include "WantedForms.hpp"
 #include "WindowRoutines.hpp"
 #include "Windows.hpp"
 #include "WorksheetBoxes.hpp"
@@ -143,12 +144,13 @@ void writeWorksheet(JsonText& answer, const std::string& markup, const std::vect
     writeBoxes(answer);
 }
 
-void writeSteps(JsonText& answer, bool run) {
+void writeSteps(JsonText& answer, bool run, const WantedForms& forms) {
     const auto add = [&](int i) {
         answer.object([&] {
             answer.member("index").number(i);
             answer.member("line").string(ws.StepLines[i]);
             answer.member("note").string(ws.StepNotes[i]);
+            forms.write(answer, ws.ProblemType, ws.StepLines[i], ws.StepNotes[i]);
         });
     };
     answer.member("steps").array([&] {
@@ -200,8 +202,8 @@ void writeGraph(JsonText& answer, bool run) {
     });
 }
 
-void writeSolution(JsonText& answer, bool run, const PlainPlatform& outside) {
-    writeSteps(answer, run);
+void writeSolution(JsonText& answer, bool run, const PlainPlatform& outside, const WantedForms& forms) {
+    writeSteps(answer, run, forms);
     writeDialogs(answer, outside);
     writeGraph(answer, run);
 }
@@ -239,6 +241,7 @@ std::string markupOfInput() {
 }  // namespace
 
 std::string solveAnswer(const SolveRequest& request) {
+    const WantedForms forms(request.forms);
     PlainPlatform outside;
     outside.dialogs.answers.assign(request.answers.begin(), request.answers.end());
     openWorksheet(request.topic, request.settings);
@@ -259,12 +262,13 @@ std::string solveAnswer(const SolveRequest& request) {
             withAnswers(compute_Click);
             if (!request.saveTo.empty()) saveProblem(request.saveTo);
         }
-        writeSolution(answer, run, outside);
+        writeSolution(answer, run, outside, forms);
     });
     return std::move(answer).take();
 }
 
 std::string loadAnswer(const LoadRequest& request) {
+    const WantedForms forms(request.forms);
     PlainPlatform outside;
     UnseenWindows windows;
     platform.windows = &windows;
@@ -277,12 +281,13 @@ std::string loadAnswer(const LoadRequest& request) {
     JsonText answer;
     answer.object([&] {
         writeWorksheet(answer, markupOfInput(), refused, canSolve);
-        writeSolution(answer, run, outside);
+        writeSolution(answer, run, outside, forms);
     });
     return std::move(answer).take();
 }
 
 std::string exampleAnswer(const ExampleRequest& request) {
+    const WantedForms forms(request.forms);
     PlainPlatform outside;
     openWorksheet(request.topic, request.settings);
     if (request.complex) ws.ComplexExamples = complexLevel;
@@ -294,7 +299,7 @@ std::string exampleAnswer(const ExampleRequest& request) {
     JsonText answer;
     answer.object([&] {
         writeWorksheet(answer, markupOfInput(), {}, run);
-        writeSolution(answer, run, outside);
+        writeSolution(answer, run, outside, forms);
     });
     return std::move(answer).take();
 }

@@ -34,12 +34,14 @@ struct SolveRequest {
     std::map<std::string, std::string> settings;  // by key of the per-user store
     bool dropRefused = false;                     // type on without the refused keys
     std::string saveTo;                           // the file that the problem is saved to once solved
+    std::vector<std::string> forms;               // by name, in which each line is wanted as well
 };
 
 struct LoadRequest {
     std::string file;
     std::vector<std::string> answers;
     std::map<std::string, std::string> settings;
+    std::vector<std::string> forms;
 };
 
 // A practice test, as ordwise-cli test makes it.
@@ -61,6 +63,7 @@ struct ExampleRequest {
     bool complex = false;
     std::uint64_t seed = 0;  // the same seed makes up the same problem
     std::map<std::string, std::string> settings;
+    std::vector<std::string> forms;
 };
 
 // A seed for a request that names none, different from the ones before. Small enough to be typed.

@@ -1,7 +1,7 @@
 #include "DeskEvents.hpp"
 
 #include "Platform.hpp"
-#include "SpokenText.hpp"
+#include "SpokenForm.hpp"
 #include "Windows.hpp"
 #include "WorksheetBoxes.hpp"
 #include "Workspace.hpp"
@@ -76,8 +76,8 @@ bool statusIsRefusal() {
 }
 
 std::string spokenLineInView() {
-    if (ws.InputOpen) return spoken(ImplodeCanon());
-    return spoken(shownLine());
+    if (ws.InputOpen) return spokenLine(ImplodeCanon(), lettersOf(ws.ProblemType));
+    return spokenLine(shownLine(), lettersOf(ws.ProblemType));
 }
 
 }  // namespace ordwise

@@ -2,7 +2,7 @@
 
 #include "ExplainWindow.hpp"
 #include "Platform.hpp"
-#include "SpokenText.hpp"
+#include "SpokenForm.hpp"
 #include "Workspace.hpp"
 #include "basFPrint.hpp"
 
@@ -114,7 +114,7 @@ void ShowExplanation() {
         frmExplain.Top = sheet.Top + hintTop;
     }
     frmExplain.cls();
-    frmExplain.Spoken = explanation.plain ? explanation.text : spoken(explanation.text);
+    frmExplain.Spoken = explanation.plain ? explanation.text : spokenNote(explanation.text, lettersOf(ws.ProblemType));
     try {
         drawWrapped(explanation);
     } catch (const RunTimeFault&) {

@@ -54,10 +54,6 @@ extern const SurfaceOffsets printerOffsets;  // also of the print preview, which
 inline constexpr double sheetTopY = 81;
 inline constexpr double sheetTopAfterBreak = 88;
 
-// Where a fraction's text splits into its halves: its last "/" outside of parentheses, npos for a
-// text that has none. e.g. "a/(b/c)" -> 1
-[[nodiscard]] std::size_t fractionBar(std::string_view text);
-
 // One line on one kind of surface. `nextPage` gives the surface on which to go on when the page is
 // full (the flag says that a line has been broken) and has set its pen.
 class MathLineRenderer {

@@ -3,6 +3,7 @@
 #include "basFPrint.hpp"
 
 #include "Fault.hpp"
+#include "MarkupReader.hpp"
 
 #include <string>
 #include <utility>
@@ -44,17 +45,6 @@ std::string_view partAt(std::string_view text, std::size_t at) {
 }
 
 }  // namespace
-
-std::size_t fractionBar(std::string_view text) {
-    int depth = 0;
-    std::size_t bar = std::string_view::npos;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '(') ++depth;
-        if (text[i] == ')') --depth;
-        if (text[i] == '/' && depth == 0) bar = i;
-    }
-    return bar;
-}
 
 void MathLineRenderer::PrintExponent(std::string_view text) {
     const double size = surface_->FontSize;

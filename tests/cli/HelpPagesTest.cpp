@@ -11,7 +11,7 @@
 #include "Catalogue.hpp"
 #include "CommandLine.hpp"
 #include "HelpPages.hpp"
-#include "TerminalText.hpp"
+#include "PlainForm.hpp"
 #include "TextTools.hpp"
 
 #include <nlohmann/json.hpp>
@@ -101,9 +101,9 @@ std::string stepsOf(const std::string& command) {
         const std::string note = step["note"];
         if (!line.empty()) {
             html += "<p class=\"line\"><img src=\"line:" + percentEncoded(line) + "\" alt=\"" +
-                    asHtml(terminalText(line)) + "\"></p>\n";
+                    asHtml(plainText(line)) + "\"></p>\n";
         }
-        if (!note.empty()) html += "<p class=\"note\">" + asHtml(terminalText(note)) + "</p>\n";
+        if (!note.empty()) html += "<p class=\"note\">" + asHtml(plainText(note)) + "</p>\n";
     }
     return html + "</td></tr></table>\n";
 }

@@ -99,9 +99,9 @@ TEST_F(ExplanationWindow, gives_notes_at_the_highest_detail_only) {
     ws.HintText = "Enter a number.  Example: 7";
     ws.StepDetail = 2;
     explain("Add 3 to 4.");
-    EXPECT_EQ(frmExplain.Spoken, "Select 'High' step-by-step detail for explanations.");
+    EXPECT_EQ(frmExplain.Spoken, "Select High step by step detail for explanations.");
     explain(ws.HintText);
-    EXPECT_EQ(frmExplain.Spoken, "Enter a number. Example: 7");
+    EXPECT_EQ(frmExplain.Spoken, "Enter a number. Example, 7");
     EXPECT_DOUBLE_EQ(frmExplain.Left, 60 + 70) << "the hint has its fixed place";
     EXPECT_DOUBLE_EQ(frmExplain.Top, 40 + 255);
 }

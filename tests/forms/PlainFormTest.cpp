@@ -1,12 +1,12 @@
 // Markup as a terminal shows it: what is written must mean what the paper shows.
-#include "TerminalText.hpp"
+#include "PlainForm.hpp"
 
 #include <gtest/gtest.h>
 
 namespace ordwise {
 namespace {
 
-TEST(TerminalText, MeansWhatThePaperShows) {
+TEST(PlainForm, MeansWhatThePaperShows) {
     const struct {
         const char* markup;
         const char* shown;
@@ -32,7 +32,7 @@ TEST(TerminalText, MeansWhatThePaperShows) {
         {"x^?^", "x^?"},
         {"~2", "~2"},  // no construct without its end
     };
-    for (const auto& each : cases) EXPECT_EQ(terminalText(each.markup), each.shown) << each.markup;
+    for (const auto& each : cases) EXPECT_EQ(plainText(each.markup), each.shown) << each.markup;
 }
 
 }  // namespace
