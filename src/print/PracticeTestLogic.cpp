@@ -6,7 +6,10 @@
 #include "PracticeTestTopics.hpp"
 #include "PracticeWindow.hpp"
 #include "RandomDraws.hpp"
+#include "TopicSearch.hpp"
 #include "Workspace.hpp"
+
+#include <algorithm>
 
 namespace ordwise {
 namespace {
@@ -64,7 +67,8 @@ void PracticeTest_Load() {
         frmPracticeTest.TreeView1.push_back({std::string(row.parent), std::string(row.key), std::string(row.text),
                                              row.key.empty() ? "book2" : "book1"});
     }
-    for (const std::string_view name : indexList()) frmPracticeTest.IndexList.push_back({std::string(name), false});
+    for (const std::string_view name : indexList())
+        frmPracticeTest.IndexList.push_back({std::string(name), false, true});
     for (ComboControl& count : frmPracticeTest.Combo1) count.ListIndex = usualCount;
     frmPracticeTest.Text1.Text = "Halvern Ordwise";
     frmPracticeTest.Text2.Text = "Practice Test";
@@ -74,6 +78,24 @@ void PracticeTest_Load() {
 
 void PracticeTest_Unload() {
     frmPracticeTest.Loaded = false;
+}
+
+void PracticeSearch_Change(std::string_view typed) {
+    frmPracticeTest.Search.Text = typed;
+    const std::vector<std::string_view> found = topicsFound(typed);
+    showInTree(frmPracticeTest.TreeView1, found);
+    for (PracticeTestWindow::ListItem& item : frmPracticeTest.IndexList)
+        item.Shown = std::find(found.begin(), found.end(), item.Text) != found.end();
+    // Nobody who has typed nothing has searched for the first topic of all.
+    const bool searched = typed.find_first_not_of(' ') != std::string_view::npos;
+    frmPracticeTest.Found = searched && !found.empty() ? found.front() : "";
+    frmPracticeTest.Label1.Text = searchNews(typed, !found.empty());
+}
+
+void PracticeSearch_Enter() {
+    if (frmPracticeTest.Found.empty()) return;
+    PracticeTree_MouseDown();
+    PracticeTree_NodeClick(frmPracticeTest.Found);
 }
 
 void PracticeIndexList_ItemCheck(int item) {

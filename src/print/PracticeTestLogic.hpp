@@ -11,6 +11,11 @@ namespace ordwise {
 void PracticeTest_Load();
 void PracticeTest_Unload();
 
+// The search box: tree and list show what it finds, and Enter brings the best match into the outline.
+// Where it finds nothing a line says so, and Enter does nothing.
+void PracticeSearch_Change(std::string_view typed);
+void PracticeSearch_Enter();
+
 // A topic of the list was checked or unchecked: it comes into the outline, or goes.
 void PracticeIndexList_ItemCheck(int item);
 

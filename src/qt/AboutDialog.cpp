@@ -2,6 +2,7 @@
 
 #include "AboutLogic.hpp"
 #include "Art.hpp"
+#include "ScreenFit.hpp"
 #include "Stage.hpp"
 #include "StartWindows.hpp"
 
@@ -12,6 +13,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ordwise {
 namespace {
@@ -29,22 +32,27 @@ AboutDialog::AboutDialog(QWidget* parent, Stage& stage)
     : QDialog(parent), stage_(stage), facts_(new QPlainTextEdit(this)) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(qstringOf(frmAbout.Caption));
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(12);
-    addHead(*layout);
+    auto* told = new QWidget(this);
+    auto* column = new QVBoxLayout(told);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    addHead(*column);
     auto* text = new QLabel(QString::fromLatin1(about), this);
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    layout->addWidget(text);
+    text->setMinimumWidth(400);
+    column->addWidget(text);
     facts_->setObjectName(QStringLiteral("SystemInformation"));
     facts_->setAccessibleName(QStringLiteral("System information"));
     facts_->setReadOnly(true);
     facts_->setLineWrapMode(QPlainTextEdit::NoWrap);
     facts_->setTabChangesFocus(true);
     facts_->setMinimumHeight(facts_->fontMetrics().height() * 13);
-    layout->addWidget(facts_);
+    column->addWidget(facts_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(12);
+    layout->addWidget(new RoomyScroll(told, this));
     addButtons(*layout);
-    setMinimumWidth(520);
     showChanges();
 }
 
@@ -91,7 +99,9 @@ void AboutDialog::showChanges() {
     if (facts_->toPlainText() != facts) facts_->setPlainText(facts);
     facts_->setVisible(!facts.isEmpty());
     copy_->setVisible(!facts.isEmpty());
-    adjustSize();
+    constexpr int usualWidth = 520;
+    const int width = std::max(usualWidth, sizeHint().width());
+    fitToScreen(*this, QSize(width, hasHeightForWidth() ? heightForWidth(width) : sizeHint().height()));
 }
 
 }  // namespace ordwise

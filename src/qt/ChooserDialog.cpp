@@ -3,14 +3,15 @@
 #include "Art.hpp"
 #include "ChooserLogic.hpp"
 #include "ChooserWindow.hpp"
+#include "ScreenFit.hpp"
 
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QVBoxLayout>
-
-#include <map>
 
 namespace ordwise {
 namespace {
@@ -37,17 +38,17 @@ ChooserDialog::ChooserDialog(QWidget* parent)
     : QDialog(parent),
       text_(new QLineEdit(this)),
       tabs_(new QTabWidget(this)),
-      tree_(new QTreeWidget(this)),
-      list_(new QListWidget(this)) {
+      tree_(new TopicTree(this, frmSelect.TreeView1)),
+      list_(new QListWidget(this)),
+      news_(new QLabel(this)),
+      ok_(nullptr) {
     setObjectName(QStringLiteral("frmSelect"));
     setWindowTitle(QStringLiteral("New Problem"));
     auto* caption = new QLabel(qstringOf("&" + frmSelect.Label1.Text), this);
     caption->setBuddy(text_);
     text_->setObjectName(QStringLiteral("Text1"));
-    text_->setPlaceholderText(QStringLiteral("Type the beginning of a name"));
+    text_->setPlaceholderText(QStringLiteral("Type a part of a name"));
     text_->setClearButtonEnabled(true);
-    tree_->setHeaderHidden(true);
-    tree_->setObjectName(QStringLiteral("TreeView1"));
     tree_->setAccessibleName(QStringLiteral("Problem types by subject"));
     list_->setObjectName(QStringLiteral("IndexList"));
     list_->setAccessibleName(QStringLiteral("Problem types in alphabetical order"));
@@ -57,11 +58,12 @@ ChooserDialog::ChooserDialog(QWidget* parent)
     layout->addWidget(caption);
     layout->addWidget(text_);
     layout->addWidget(tabs_);
-    resize(460, 560);
+    news_->setObjectName(QStringLiteral("Label2"));
+    layout->addWidget(news_);
+    layout->addWidget(buttons());
+    fitToScreen(*this, QSize(460, 560));
     setTabOrder(text_, tabs_);
 
-    buildTree();
-    for (const std::string& name : frmSelect.IndexList.List) list_->addItem(qstringOf(name));
     showChanges();
     text_->setFocus();
     for (QWidget* widget : std::initializer_list<QWidget*>{text_, tree_, list_, tabs_->tabBar()})
@@ -69,14 +71,20 @@ ChooserDialog::ChooserDialog(QWidget* parent)
 
     connect(text_, &QLineEdit::textEdited, this, [this](const QString& typed) {
         SelectText_Change(typed.toStdString());
+        tree_->showFound(frmSelect.TreeView1, !typed.isEmpty());
+        showChanges();
+    });
+    connect(tree_, &QTreeWidget::currentItemChanged, this, [this] {
+        TreeView_Mark(textOfCurrent(*tree_).toStdString());
         showChanges();
     });
     connect(tree_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
         TreeView_NodeClick(item->text(0).toStdString());
         if (!finishIfChosen()) item->setExpanded(!item->isExpanded());
     });
-    connect(list_, &QListWidget::currentRowChanged, this, [](int row) {
+    connect(list_, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0) IndexList_Click(row);
+        showChanges();
     });
     connect(list_, &QListWidget::itemDoubleClicked, this, [this] {
         IndexList_DblClick();
@@ -88,15 +96,23 @@ ChooserDialog::ChooserDialog(QWidget* parent)
     });
 }
 
-void ChooserDialog::buildTree() {
-    std::map<std::string, QTreeWidgetItem*> headings;
-    for (const ChooserWindow::Node& node : frmSelect.TreeView1) {
-        QTreeWidgetItem* item =
-            node.Parent.empty() ? new QTreeWidgetItem(tree_) : new QTreeWidgetItem(headings.at(node.Parent));
-        item->setText(0, qstringOf(node.Text));
-        item->setIcon(0, artIcon(node.Image));
-        if (!node.Key.empty()) headings.emplace(node.Key, item);
-    }
+QWidget* ChooserDialog::buttons() {
+    auto* box = new QDialogButtonBox(this);
+    ok_ = box->addButton(qstringOf(frmSelect.Command1.Text), QDialogButtonBox::AcceptRole);
+    ok_->setObjectName(QStringLiteral("Command1"));
+    QPushButton* cancel = box->addButton(qstringOf(frmSelect.Command2.Text), QDialogButtonBox::RejectRole);
+    cancel->setObjectName(QStringLiteral("Command2"));
+    for (QPushButton* button : {ok_, cancel}) button->setAutoDefault(false);  // Enter is asked of the logic
+    ok_->setDefault(true);
+    connect(box, &QDialogButtonBox::accepted, this, [this] {
+        Select_Command1_Click();
+        finishIfChosen();
+    });
+    connect(box, &QDialogButtonBox::rejected, this, [this] {
+        Select_Command2_Click();
+        finishIfChosen();
+    });
+    return box;
 }
 
 void ChooserDialog::showChanges() {
@@ -105,16 +121,22 @@ void ChooserDialog::showChanges() {
     const QString typed = qstringOf(frmSelect.Text1.Text);
     if (text_->text() != typed) text_->setText(typed);
     tabs_->setCurrentIndex(frmSelect.SSTab1);
-    list_->setCurrentRow(frmSelect.IndexList.ListIndex);
-    if (!typed.isEmpty()) revealInTree(qstringOf(selectedTopic()));
+    showList();
+    tree_->mark(selectedTopic());
+    news_->setText(qstringOf(frmSelect.Label2.Text));
+    ok_->setEnabled(frmSelect.Command1.Enabled);
 }
 
-// What the search has found is also to be seen in the tree.
-void ChooserDialog::revealInTree(const QString& name) {
-    const auto found = tree_->findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
-    if (found.isEmpty()) return;
-    tree_->setCurrentItem(found.first());
-    tree_->scrollToItem(found.first());
+void ChooserDialog::showList() {
+    const std::vector<std::string>& names = frmSelect.IndexList.List;
+    bool same = list_->count() == static_cast<int>(names.size());
+    for (int i = 0; same && i < list_->count(); ++i)
+        same = list_->item(i)->text() == qstringOf(names[static_cast<std::size_t>(i)]);
+    if (!same) {
+        list_->clear();
+        for (const std::string& name : names) list_->addItem(qstringOf(name));
+    }
+    list_->setCurrentRow(frmSelect.IndexList.ListIndex);
 }
 
 bool ChooserDialog::eventFilter(QObject* watched, QEvent* event) {
@@ -131,10 +153,7 @@ bool ChooserDialog::keyPressed(QObject* watched, QKeyEvent& event) {
     const ChooserKey key = chooserKeyOf(event);
     if (watched == text_) {
         SelectText_KeyDown(key);
-        if (key == ChooserKey::Up || key == ChooserKey::Down) {  // the box moves through the list
-            const int row = frmSelect.IndexList.ListIndex + (key == ChooserKey::Down ? 1 : -1);
-            if (row >= 0 && row < list_->count()) IndexList_Click(row);
-            IndexList_KeyUp();
+        if (key == ChooserKey::Up || key == ChooserKey::Down) {
             showChanges();
             return true;
         }

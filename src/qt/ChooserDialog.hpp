@@ -1,11 +1,15 @@
-// frmSelect: the chooser of problem types, a search box over a tree and an alphabetical list.
+// frmSelect: the chooser of problem types, a search box over a tree and a list.
 #pragma once
+
+#include "TopicTree.hpp"
 
 #include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTabWidget>
-#include <QTreeWidget>
+
+class QLabel;
+class QPushButton;
 
 namespace ordwise {
 
@@ -17,7 +21,7 @@ public:
     void showChanges();
 
     [[nodiscard]] QLineEdit& searchBox() const { return *text_; }
-    [[nodiscard]] QTreeWidget& tree() const { return *tree_; }
+    [[nodiscard]] TopicTree& tree() const { return *tree_; }
     [[nodiscard]] QListWidget& list() const { return *list_; }
     [[nodiscard]] QTabWidget& tabs() const { return *tabs_; }
 
@@ -27,15 +31,17 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void buildTree();
-    void revealInTree(const QString& name);
+    [[nodiscard]] QWidget* buttons();
+    void showList();
     bool keyPressed(QObject* watched, QKeyEvent& event);
     bool finishIfChosen();
 
     QLineEdit* text_;
     QTabWidget* tabs_;
-    QTreeWidget* tree_;
+    TopicTree* tree_;
     QListWidget* list_;
+    QLabel* news_;
+    QPushButton* ok_;
 };
 
 }  // namespace ordwise

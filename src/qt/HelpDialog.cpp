@@ -6,6 +6,7 @@
 #include "HelpPages.hpp"
 #include "HelpWindow.hpp"
 #include "Platform.hpp"
+#include "ScreenFit.hpp"
 #include "Stage.hpp"
 
 #include <QAction>
@@ -15,7 +16,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
-#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
@@ -60,7 +60,7 @@ HelpDialog::HelpDialog(QWidget* parent, Stage& stage)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(split);
-    resize(QSize(960, 700).boundedTo(screen()->availableSize() * 0.9));
+    fitToScreen(*this, QSize(960, 700));
     split->setSizes({260, 700});
     buildContents();
     connect(contents_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {

@@ -2,6 +2,7 @@
 
 #include "Art.hpp"
 #include "OptionsLogic.hpp"
+#include "ScreenFit.hpp"
 #include "Stage.hpp"
 #include "StartWindows.hpp"
 
@@ -76,19 +77,24 @@ OptionsDialog::OptionsDialog(QWidget* parent, Stage& stage)
       buttons_(new QDialogButtonBox(this)) {
     setObjectName(QStringLiteral("frmOptions"));
     setWindowTitle(qstringOf(frmOptions.Caption));
-    auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(10);
-    layout->addWidget(assistantRow());
-    layout->addWidget(check3_);
-    layout->addWidget(check2_);
+    auto* settings = new QWidget(this);
+    auto* column = new QVBoxLayout(settings);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(10);
+    column->addWidget(assistantRow());
+    column->addWidget(check3_);
+    column->addWidget(check2_);
     auto* lists = new QFormLayout;
     lists->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     lists->addRow(withKey(frmOptions.Label2.Text, 'S'), combo2_);
     lists->addRow(withKey(frmOptions.Label3.Text, 'N'), combo1_);
-    layout->addLayout(lists);
-    layout->addWidget(buttons_);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
+    column->addLayout(lists);
     addButtons();
+    auto* layout = new QVBoxLayout(this);
+    layout->setSpacing(10);
+    layout->addWidget(new RoomyScroll(settings, this));
+    layout->addWidget(buttons_);
+    fitToScreen(*this, sizeHint());
     showSettings();
     for (int number = 1; number <= 3; ++number) {
         if (assistant(number).isChecked()) assistant(number).setFocus();

@@ -3,7 +3,9 @@
 #include "Art.hpp"
 #include "HeadingEdits.hpp"
 #include "PracticeTestLogic.hpp"
+#include "ScreenFit.hpp"
 #include "Stage.hpp"
+#include "TopicTree.hpp"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -17,10 +19,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QTabWidget>
-#include <QTreeWidget>
 #include <QVBoxLayout>
-
-#include <map>
 
 namespace ordwise {
 namespace {
@@ -50,35 +49,6 @@ QComboBox* comboOf(QWidget* parent, ComboControl& control, const QString& name) 
     return combo;
 }
 
-bool isFound(const QString& name, const QString& typed) {
-    const QStringList words = typed.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    return std::all_of(words.begin(), words.end(),
-                       [&](const QString& word) { return name.contains(word, Qt::CaseInsensitive); });
-}
-
-// A heading is there for the topics below it. True if there are any.
-bool filterBelow(QTreeWidgetItem& item, const QString& typed) {
-    if (item.childCount() == 0) return isFound(item.text(0), typed);
-    bool any = false;
-    for (int i = 0; i < item.childCount(); ++i) {
-        QTreeWidgetItem* child = item.child(i);
-        const bool found = filterBelow(*child, typed);
-        child->setHidden(!found);
-        any = any || found;
-    }
-    item.setExpanded(any && !typed.isEmpty());
-    return any;
-}
-
-QTreeWidgetItem* firstFound(QTreeWidgetItem& item) {
-    for (int i = 0; i < item.childCount(); ++i) {
-        QTreeWidgetItem* child = item.child(i);
-        if (child->isHidden()) continue;
-        return child->childCount() == 0 ? child : firstFound(*child);
-    }
-    return nullptr;
-}
-
 QString countedText(int count, const char* one, const char* many) {
     return QStringLiteral("%1 %2").arg(count).arg(QString::fromLatin1(count == 1 ? one : many));
 }
@@ -90,13 +60,16 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
       stage_(stage),
       search_(new QLineEdit(this)),
       tabs_(new QTabWidget(this)),
-      tree_(new QTreeWidget(this)),
+      tree_(new TopicTree(this, frmPracticeTest.TreeView1)),
       list_(new QListWidget(this)),
+      news_(new QLabel(this)),
       summary_(new QLabel(this)) {
     setObjectName(QStringLiteral("frmPracticeTest"));
     setWindowTitle(QStringLiteral("Practice Test"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    auto* right = new QVBoxLayout;
+    auto* plan = new QWidget(this);
+    auto* right = new QVBoxLayout(plan);
+    right->setContentsMargins(0, 0, 0, 0);
     right->addWidget(outline(), 1);
     auto* lower = new QHBoxLayout;
     lower->addWidget(new HeadingEdits(this, {&frmPracticeTest.Text1, &frmPracticeTest.Text2, &frmPracticeTest.Text3}),
@@ -105,7 +78,7 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
     right->addLayout(lower);
     auto* columns = new QHBoxLayout;
     columns->addWidget(topics(), 2);
-    columns->addLayout(right, 3);
+    columns->addWidget(new RoomyScroll(plan, this), 3);
     auto* buttons = new QDialogButtonBox(this);
     QPushButton* create = buttons->addButton(QStringLiteral("Create &Practice Test"), QDialogButtonBox::AcceptRole);
     create->setObjectName(QStringLiteral("Command2"));
@@ -115,9 +88,9 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(columns, 1);
     layout->addWidget(buttons);
-    resize(940, 640);
+    fitToScreen(*this, QSize(940, 640));
 
-    buildTree();
+    fillList();
     connectTopics();
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { stage_.perform(PracticeCommand2_Click); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -128,11 +101,9 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
 QWidget* PracticeTestDialog::topics() {
     auto* group = new QGroupBox(QStringLiteral("Topics"), this);
     search_->setObjectName(QStringLiteral("search"));
-    search_->setPlaceholderText(QStringLiteral("Search; Enter takes the first one found"));
+    search_->setPlaceholderText(QStringLiteral("Search; Enter takes the best match"));
     search_->setAccessibleName(QStringLiteral("Search a topic"));
     search_->setClearButtonEnabled(true);
-    tree_->setObjectName(QStringLiteral("TreeView1"));
-    tree_->setHeaderHidden(true);
     tree_->setAccessibleName(QStringLiteral("Topics by subject"));
     list_->setObjectName(QStringLiteral("IndexList"));
     list_->setAccessibleName(QStringLiteral("Topics in alphabetical order"));
@@ -142,6 +113,9 @@ QWidget* PracticeTestDialog::topics() {
     auto* layout = new QVBoxLayout(group);
     layout->addWidget(search_);
     layout->addWidget(tabs_);
+    news_->setObjectName(QStringLiteral("Label1"));
+    news_->setWordWrap(true);
+    layout->addWidget(news_);
     return group;
 }
 
@@ -209,15 +183,7 @@ QWidget* PracticeTestDialog::variants() {
     return group;
 }
 
-void PracticeTestDialog::buildTree() {
-    std::map<std::string, QTreeWidgetItem*> headings;
-    for (const ChooserWindow::Node& node : frmPracticeTest.TreeView1) {
-        QTreeWidgetItem* item =
-            node.Parent.empty() ? new QTreeWidgetItem(tree_) : new QTreeWidgetItem(headings.at(node.Parent));
-        item->setText(0, qstringOf(node.Text));
-        item->setIcon(0, artIcon(node.Image));
-        if (!node.Key.empty()) headings.emplace(node.Key, item);
-    }
+void PracticeTestDialog::fillList() {
     for (const PracticeTestWindow::ListItem& row : frmPracticeTest.IndexList) {
         auto* item = new QListWidgetItem(qstringOf(row.Text), list_);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
@@ -230,7 +196,11 @@ void PracticeTestDialog::connectTopics() {
         widget->installEventFilter(this);
     tabs_->setCurrentIndex(frmPracticeTest.SSTab1);
     connect(tabs_, &QTabWidget::currentChanged, this, [](int tab) { frmPracticeTest.SSTab1 = tab; });
-    connect(search_, &QLineEdit::textChanged, this, &PracticeTestDialog::filter);
+    connect(search_, &QLineEdit::textChanged, this, [this](const QString& typed) {
+        stage_.perform([&typed] { PracticeSearch_Change(typed.toStdString()); });
+        tree_->showFound(frmPracticeTest.TreeView1, !typed.isEmpty());
+        tree_->mark(frmPracticeTest.Found);
+    });
     connect(tree_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
         if (item->childCount() > 0) item->setExpanded(!item->isExpanded());
         stage_.perform([item] { PracticeTree_NodeClick(item->text(0).toStdString()); });
@@ -245,25 +215,6 @@ void PracticeTestDialog::connectTopics() {
     });
 }
 
-void PracticeTestDialog::filter(const QString& typed) {
-    for (int i = 0; i < list_->count(); ++i) list_->item(i)->setHidden(!isFound(list_->item(i)->text(), typed));
-    for (int i = 0; i < tree_->topLevelItemCount(); ++i) {
-        QTreeWidgetItem* item = tree_->topLevelItem(i);
-        item->setHidden(!filterBelow(*item, typed));
-    }
-}
-
-// The first topic that the search has left over comes into the outline.
-void PracticeTestDialog::takeFound() {
-    QTreeWidgetItem* found = firstFound(*tree_->invisibleRootItem());
-    if (found == nullptr || search_->text().isEmpty()) return;
-    stage_.perform([found] {
-        PracticeTree_MouseDown();
-        PracticeTree_NodeClick(found->text(0).toStdString());
-    });
-    search_->selectAll();
-}
-
 bool PracticeTestDialog::eventFilter(QObject* watched, QEvent* event) {
     const bool pressed = event->type() == QEvent::MouseButtonPress;
     if (pressed && watched == tree_->viewport()) PracticeTree_MouseDown();
@@ -276,7 +227,10 @@ bool PracticeTestDialog::eventFilter(QObject* watched, QEvent* event) {
 bool PracticeTestDialog::keyInTopics(QObject* watched, int key) {
     const int code = keyCodeOf(key);
     if (watched == search_) {
-        if (code == keyEnter) takeFound();
+        if (code == keyEnter) {
+            stage_.perform(PracticeSearch_Enter);
+            search_->selectAll();
+        }
         if (key == Qt::Key_Down) tabs_->currentWidget()->setFocus();
         return code == keyEnter || key == Qt::Key_Down;
     }
@@ -294,7 +248,10 @@ void PracticeTestDialog::showChanges() {
     setCursor(frmMain.MousePointer == 0 ? Qt::ArrowCursor : Qt::WaitCursor);
     const QSignalBlocker quiet(list_);
     for (int i = 0; i < list_->count(); ++i) {
-        const bool checked = frmPracticeTest.IndexList[static_cast<std::size_t>(i)].Checked;
+        const PracticeTestWindow::ListItem& row = frmPracticeTest.IndexList[static_cast<std::size_t>(i)];
+        const bool checked = row.Checked;
+        list_->item(i)->setHidden(!row.Shown);
+        if (row.Text == frmPracticeTest.Found) list_->setCurrentRow(i);
         list_->item(i)->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
         for (QTreeWidgetItem* item : tree_->findItems(list_->item(i)->text(), Qt::MatchExactly | Qt::MatchRecursive)) {
             QFont face = tree_->font();
@@ -302,6 +259,8 @@ void PracticeTestDialog::showChanges() {
             item->setFont(0, face);
         }
     }
+    news_->setText(qstringOf(frmPracticeTest.Label1.Text));
+    news_->setVisible(!frmPracticeTest.Label1.Text.empty());
     showOutline();
 }
 

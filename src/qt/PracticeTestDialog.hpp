@@ -17,12 +17,11 @@ class QLineEdit;
 class QListWidget;
 class QPushButton;
 class QTabWidget;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace ordwise {
 
 class Stage;
+class TopicTree;
 
 class PracticeTestDialog : public QDialog, public WindowView {
 public:
@@ -46,18 +45,17 @@ private:
     [[nodiscard]] QWidget* outline();
     [[nodiscard]] QWidget* variants();
     void addSection(int number, QGridLayout& grid);
-    void buildTree();
+    void fillList();
     void connectTopics();
-    void filter(const QString& typed);
-    void takeFound();
     [[nodiscard]] bool keyInTopics(QObject* watched, int key);
     void showOutline();
 
     Stage& stage_;
     QLineEdit* search_;
     QTabWidget* tabs_;
-    QTreeWidget* tree_;
+    TopicTree* tree_;
     QListWidget* list_;
+    QLabel* news_;
     std::array<Section, PracticeTestWindow::lastSection + 1> sections_{};
     QLabel* summary_;
     bool boxClicked_ = false;  // the click on the list was one on the check box

@@ -3,16 +3,15 @@
 #include "Art.hpp"
 #include "PrintPreview.hpp"
 #include "PrintWindows.hpp"
+#include "ScreenFit.hpp"
 #include "Stage.hpp"
 #include "StatusLine.hpp"
 #include "Workspace.hpp"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSpinBox>
@@ -54,8 +53,7 @@ PrintPreviewDialog::PrintPreviewDialog(QWidget* parent, Stage& stage)
     layout()->addWidget(page_);
     layout()->addWidget(news_);
     addButtons();
-    const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-    resize(QSize(760, 900).boundedTo(screen * 0.95));
+    fitToScreen(*this, QSize(760, 900));
     showChanges();
     page_->setFocus();
 }

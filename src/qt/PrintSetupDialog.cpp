@@ -4,6 +4,7 @@
 #include "HeadingEdits.hpp"
 #include "PrintWindows.hpp"
 #include "Printing.hpp"
+#include "ScreenFit.hpp"
 #include "Stage.hpp"
 #include "StatusLine.hpp"
 
@@ -61,14 +62,18 @@ PrintSetupDialog::PrintSetupDialog(QWidget* parent, Stage& stage)
     QPushButton* cancel = buttons->addButton(qstringOf(frmPrintSetup.Command1.Text), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("Command1"));
 
+    auto* job = new QWidget(this);
+    auto* column = new QVBoxLayout(job);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(new HeadingEdits(this, {&frmPrintSetup.Text1, &frmPrintSetup.Text2, &frmPrintSetup.Text3}));
+    column->addWidget(what);
+    column->addWidget(where);
+    column->addStretch();
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(new HeadingEdits(this, {&frmPrintSetup.Text1, &frmPrintSetup.Text2, &frmPrintSetup.Text3}));
-    layout->addWidget(what);
-    layout->addWidget(where);
-    layout->addStretch();
+    layout->addWidget(new RoomyScroll(job, this));
     layout->addWidget(news_);
     layout->addWidget(buttons);
-    resize(420, sizeHint().height());
+    fitToScreen(*this, QSize(420, sizeHint().height()));
 
     connect(setup, &QPushButton::clicked, this, [this] { stage_.perform(frmPrintSetup_Command3_Click); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { stage_.perform(frmPrintSetup_Command2_Click); });

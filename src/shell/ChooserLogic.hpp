@@ -16,10 +16,11 @@ void Select_Unload();
 // Fills the tree from the catalogue. With `forgetProblem` no problem type is chosen any more.
 void BuildTopicTree(bool forgetProblem);
 
-// The search box: selects the first entry that starts with the text, whatever the case of its
-// letters; without one the selection stays. e.g. "solv" -> "Solving Equations"
+// The search box: tree and list show only what it finds, and the best match is selected; where it
+// finds nothing, nothing is selected and a line says so. e.g. "solv" -> "Solving Equations"
 void SelectText_Change(std::string_view typed);
-// Enter takes the topic that is selected in the list.
+// Enter takes the selected topic, Up and Down select another one of the found ones in the order of
+// the tab in view.
 void SelectText_KeyDown(ChooserKey key);
 
 // The list: a click or an arrow selects, Enter or a double click takes.
@@ -29,7 +30,9 @@ void IndexList_KeyDown(ChooserKey key);
 // After a key the search box repeats the selected name.
 void IndexList_KeyUp();
 
-// The tree: a topic is taken, a heading leaves the chooser open.
+// The tree: what the arrows mark is selected, a topic that is clicked is taken, a heading leaves the
+// chooser open.
+void TreeView_Mark(std::string_view text);
 void TreeView_NodeClick(std::string_view text);
 // `current` is the text of the node that is marked in the tree.
 void TreeView_KeyDown(ChooserKey key, std::string_view current);
@@ -38,7 +41,10 @@ void TreeView_KeyDown(ChooserKey key, std::string_view current);
 void SelectTab_KeyDown(ChooserKey key);
 void SelectTab_Click(int tab);
 
-// The name that is selected in the list.
+void Select_Command1_Click();  // OK: takes the selected topic
+void Select_Command2_Click();  // Cancel
+
+// The name that is selected; "" while a heading is marked or nothing was found.
 [[nodiscard]] std::string_view selectedTopic();
 
 }  // namespace ordwise

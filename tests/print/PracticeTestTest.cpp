@@ -87,6 +87,22 @@ TEST_F(PracticeTests, TakeATopicOfTheTreeOnceAndNoHeading) {
     EXPECT_EQ(outline()[1], "Modes");
 }
 
+TEST_F(PracticeTests, TakeTheBestMatchOfTheSearchOrNothing) {
+    const auto taken = [](std::string_view typed) {
+        PracticeSearch_Change(typed);
+        PracticeSearch_Enter();
+        const std::string topic = frmPracticeTest.Text4[0].Text;
+        PracticeCommand4_Click(0);
+        return topic;
+    };
+    EXPECT_EQ(taken("meter conv"), "Meter Conversions");
+    EXPECT_EQ(taken("inches meters"), "Converting Inches To Meters");
+    EXPECT_EQ(taken(" "), "");
+    EXPECT_EQ(frmPracticeTest.Label1.Text, "");
+    EXPECT_EQ(taken("Square Roots"), "");
+    EXPECT_EQ(frmPracticeTest.Label1.Text, "No topic has \"Square Roots\" in its name.");
+}
+
 TEST_F(PracticeTests, HaveRoomForTenSections) {
     for (int i = 0; i < 12; ++i) PracticeIndexList_ItemCheck(i);
     EXPECT_EQ(outline()[9], frmPracticeTest.IndexList[9].Text);

@@ -41,15 +41,53 @@ TEST_F(Chooser, opens_with_the_first_entry_and_the_tree) {
     EXPECT_EQ(ws.ProblemType, 0);
 }
 
-TEST_F(Chooser, finds_the_first_entry_by_its_beginning_whatever_the_case) {
-    SelectText_Change("vOLume of a c");
-    EXPECT_EQ(selectedTopic(), "Volume of a Cone");
-    SelectText_Change("volume of a cq");
-    EXPECT_EQ(selectedTopic(), "Volume of a Cone") << "no match leaves the selection";
+TEST_F(Chooser, finds_beginnings_before_words_and_takes_nothing_that_it_has_not_found) {
+    const auto found = [](std::string_view typed) {
+        SelectText_Change(typed);
+        return std::string(selectedTopic());
+    };
+    EXPECT_EQ(found("vOLume of a c"), "Volume of a Cone");
+    EXPECT_EQ(found("meter conv"), "Meter Conversions");
+    EXPECT_EQ(found("equation"), "Graphing A Linear Equation");
+    EXPECT_EQ(frmSelect.IndexList.List, (std::vector<std::string>{"Graphing A Linear Equation", "Solving Equations"}));
+    EXPECT_EQ(found(" graph two "), "Graphing A Line Using Two Points");
+    EXPECT_EQ(found(""), "Absolute Values");
+
+    EXPECT_EQ(found("Square Roots"), "");
+    EXPECT_EQ(frmSelect.Label2.Text, "No topic has \"Square Roots\" in its name.");
+    EXPECT_FALSE(frmSelect.Command1.Enabled);
+    for (const auto& take : {+[] { SelectText_KeyDown(ChooserKey::Enter); }, +[] { IndexList_DblClick(); },
+                             +[] { Select_Command1_Click(); }}) {
+        take();
+        EXPECT_TRUE(frmSelect.Loaded);
+    }
+    EXPECT_EQ(found("volume of a cone"), "Volume of a Cone");
+    EXPECT_EQ(frmSelect.Label2.Text, "");
     SelectText_KeyDown(ChooserKey::Enter);
     EXPECT_EQ(ws.ProblemType, 3);
     EXPECT_FALSE(frmSelect.Loaded);
     EXPECT_FALSE(ws.ChooserClosed);
+}
+
+TEST_F(Chooser, shows_what_it_has_found_and_walks_through_it_as_it_stands_in_view) {
+    SelectText_Change("equation");
+    std::vector<std::string> shown;
+    for (const ChooserWindow::Node& node : frmSelect.TreeView1) {
+        if (node.Shown) shown.push_back(node.Text);
+    }
+    EXPECT_EQ(shown, (std::vector<std::string>{"Graphing", "Graphing A Linear Equation", "Equations/Polynomials",
+                                               "Solving Equations"}));
+    SelectText_Change("area of");
+    SelectText_KeyDown(ChooserKey::Down);  // the best match stands second in the tree
+    EXPECT_EQ(frmSelect.Text1.Text, "Area of a Triangle");
+    SelectTab_Click(1);
+    SelectText_KeyDown(ChooserKey::Up);
+    EXPECT_EQ(frmSelect.Text1.Text, "Area of a Trapezoid");
+    TreeView_Mark("Areas/Volumes");
+    EXPECT_FALSE(frmSelect.Command1.Enabled) << "a heading is nothing to take";
+    TreeView_Mark("Area of a Circle");
+    Select_Command1_Click();
+    EXPECT_EQ(ws.TopicName, "Area of a Circle");
 }
 
 TEST_F(Chooser, every_entry_of_the_list_can_be_taken) {
