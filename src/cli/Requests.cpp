@@ -245,7 +245,7 @@ std::string solveAnswer(const SolveRequest& request) {
     PlainPlatform outside;
     outside.dialogs.answers.assign(request.answers.begin(), request.answers.end());
     openWorksheet(request.topic, request.settings);
-    if (!request.problem.empty() && ws.ProblemType < firstPaperTopic)
+    if (!request.problem.empty() && !isOnPaper(ws.ProblemType))
         throw BadRequest("\"" + request.topic +
                          "\" takes its numbers in boxes (--box N=TEXT), not as a typed problem.");
     selectCombos(request.combos);

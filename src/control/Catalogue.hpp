@@ -10,9 +10,6 @@
 
 namespace ordwise {
 
-// Topics below this code take their problem in boxes, from it on it is typed on the paper.
-inline constexpr int firstPaperTopic = 28;
-
 struct TopicRow {
     int code;               // ProblemType
     std::string_view name;  // the key, compared exactly

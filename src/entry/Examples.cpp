@@ -70,18 +70,20 @@ Example drawForm(const ExampleWish& wish) {
     return example;
 }
 
-// Types the expression as it is drawn, until one is worth solving.
+// Types the expression as it is drawn, until one is worth solving and can be written out: its bars
+// may open again and again, and a full paper takes no more keys.
 Example drawExpression(const ExampleWish& wish) {
-    do {
+    for (;;) {
         emptyPaper();
-    } while (!typeExpression(wish));
-    Example example;
-    readFromPaper(example);
-    return example;
+        if (!typeExpression(wish)) continue;
+        Example example;
+        readFromPaper(example);
+        if (hasRoomFor(example.line)) return example;
+    }
 }
 
 Example drawOnce(const ExampleWish& wish) {
-    if (wish.type < firstPaperTopic) return drawBoxes(wish);
+    if (!isOnPaper(wish.type)) return drawBoxes(wish);
     return isExpressionTopic(wish.type) ? drawExpression(wish) : drawForm(wish);
 }
 
@@ -124,7 +126,7 @@ Example drawExample(int type, int level) {
 Example makeUp(int type, int level) {
     Example example = drawExample(type, level);
     completeLine(example);
-    if (type >= firstPaperTopic) emptyPaper();
+    if (isOnPaper(type)) emptyPaper();
     return example;
 }
 
@@ -194,7 +196,7 @@ std::vector<RefusedKey> ExampleChop(std::string_view text, bool forTest) {
         return {};
     }
     std::vector<RefusedKey> refused;
-    if (ws.ProblemType >= firstPaperTopic) refused = typeOnPaper(text);
+    if (isOnPaper(ws.ProblemType)) refused = typeOnPaper(text);
     if (refused.empty() && frmMain.mnuSolve.Enabled) compute_Click();
     return refused;
 }

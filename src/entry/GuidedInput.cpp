@@ -8,9 +8,12 @@
 #include "SyntaxCheck.hpp"
 #include "TextTools.hpp"
 #include "Windows.hpp"
+#include "WorksheetLayout.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 #include "basFPrint.hpp"
+
+#include <limits>
 
 namespace ordwise {
 
@@ -105,7 +108,7 @@ KeyOutcome Form_KeyPress(std::string_view key) {
     ws.CharAccepted = false;
     if (key == enterKey && command()) return KeyOutcome::Commanded;
     const bool hasRoom = key == backspaceKey || !lineIsFull();
-    if (!hasRoom || ws.ProblemType < firstPaperTopic || !ws.InputOpen) return KeyOutcome::Dropped;
+    if (!hasRoom || !isOnPaper(ws.ProblemType) || !ws.InputOpen) return KeyOutcome::Dropped;
 
     frmPaper.Paper[0].cls();
     frmPaper.Paper[0].CurrentY = sheetTopY;
@@ -118,6 +121,15 @@ KeyOutcome Form_KeyPress(std::string_view key) {
     }
     showAccepted();
     return KeyOutcome::Accepted;
+}
+
+bool hasRoomFor(std::string_view line) {
+    SurfaceOffsets inOneRow = worksheetOffsets;
+    inOneRow.breakAt = std::numeric_limits<double>::infinity();
+    DrawingSurface paper;
+    MathLineRenderer renderer(paper, inOneRow, black, [&](bool) -> DrawingSurface& { return paper; });
+    renderer.line(line);
+    return renderer.lineEndX() < fullLineX;
 }
 
 void FormFilter(std::string_view key, bool quiet) {

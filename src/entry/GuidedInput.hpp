@@ -1,6 +1,6 @@
 // Guided typing: what happens on every key on the paper.
 //
-// A topic from firstPaperTopic on is typed on the paper, key by key. A key that keeps the problem
+// A topic without boxes is typed on the paper, key by key. A key that keeps the problem
 // well formed enters InputTokens, and the line is drawn anew; any other is refused: the light turns
 // red, ExplainOverrideText says why, and nothing else changes.
 #pragma once
@@ -28,5 +28,8 @@ KeyOutcome Form_KeyPress(std::string_view key);
 // The same for the text alone: CharAccepted, InputTokens, the syntax state, the rewrite and Solve.
 // `quiet` draws nothing; example problems are typed so.
 void FormFilter(std::string_view key, bool quiet);
+
+// Whether a drawn line leaves room for further keys. Draws nothing. Faults (9) as the renderer does.
+[[nodiscard]] bool hasRoomFor(std::string_view line);
 
 }  // namespace ordwise

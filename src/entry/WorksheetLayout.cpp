@@ -200,7 +200,7 @@ void Form_Load() {
     clearBoxes();
     offerHint();
 
-    const bool onPaper = ws.ProblemType >= firstPaperTopic;
+    const bool onPaper = isOnPaper(ws.ProblemType);
     frmPaper.Pencil.Visible = onPaper;
     frmPaper.deskPencil.Visible = !onPaper;
     frmPaper.deskPencil.Image = "deskPencil";

@@ -1,5 +1,5 @@
-// What the worksheet shows for each topic. The box topics, below 28, put their problem into boxes on
-// Picture3, which lies on the first sheet above the steps; from 28 on it is typed on the paper.
+// What the worksheet shows for each topic. A topic that has a layout takes its problem in boxes on
+// Picture3, which lies on the first sheet above the steps; any other is typed on the paper.
 //
 // Boxes, labels and lists count from the corner of Picture3; Combo3 alone lies on the sheet itself.
 #pragma once
@@ -42,6 +42,8 @@ struct WorksheetLayout {
 
 // The layout of a box topic; null for a topic of the paper or an unknown one.
 [[nodiscard]] const WorksheetLayout* layoutOf(int problemType);
+// A topic that is typed; false before any was chosen.
+[[nodiscard]] bool isOnPaper(int problemType);
 
 // The entries of Combo1 and Combo2 for a topic of metric units, and of Combo3 for rounding.
 // e.g. metersTopic -> "mm (0.001 meters)", ..., "km (1000 meters)"

@@ -103,4 +103,8 @@ const WorksheetLayout* layoutOf(int problemType) {
     return nullptr;
 }
 
+bool isOnPaper(int problemType) {
+    return problemType > 0 && layoutOf(problemType) == nullptr;
+}
+
 }  // namespace ordwise

@@ -98,7 +98,7 @@ bool loadText(std::string_view text) {
 SavedProblem problemOnDesk() {
     SavedProblem problem;
     problem.topic = ws.TopicName;
-    problem.typed = ws.ProblemType >= firstPaperTopic ? ImplodeInput() : "";
+    problem.typed = isOnPaper(ws.ProblemType) ? ImplodeInput() : "";
     for (int i = 1; i <= 6; ++i) problem.boxes[static_cast<std::size_t>(i - 1)] = frmPaper.box(i).Text;
     problem.type = ws.ProblemType;
     for (std::size_t i = 0; i < problem.combos.size(); ++i) {
@@ -137,7 +137,7 @@ std::optional<SavedProblem> problemOfText(std::string_view bytes) {
 }
 
 std::optional<RefusedKey> refusedKeyOf(const SavedProblem& problem) {
-    if (problem.type < firstPaperTopic) return std::nullopt;
+    if (!isOnPaper(problem.type)) return std::nullopt;
     const DeskKeeper keeper;
     TreeViewSelect(problem.topic, true);
     return firstRefusedKey(problem.typed);

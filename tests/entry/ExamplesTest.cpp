@@ -184,6 +184,19 @@ TEST_F(Examples, BeginWithoutTheOpenBarOfTheProblemBefore) {
     EXPECT_FALSE(ws.InputOpen);
 }
 
+// Bars may open again and again, until the paper takes no more keys: the first draws of these seeds.
+TEST_F(Examples, FindRoomOnThePaper) {
+    chooseFresh("Absolute Values");
+    ws.ComplexExamples = complexLevel;
+    for (const std::uint64_t seed : {1171, 4116}) {
+        seedExample(ws.ProblemType, complexLevel, seed);
+        for (int letter = 0; letter < ws.EquationMode; ++letter) (void)RandInt2to9();
+        const Example example = example_Click();
+        EXPECT_EQ(typedText(), example.keys);
+        EXPECT_FALSE(ws.InputOpen) << "solved";
+    }
+}
+
 TEST_F(Examples, ForATestAreNumberedLinesWithTheSuffixAndNothingElse) {
     chooseFresh("Rounding");
     ws.TestNumber = 3;

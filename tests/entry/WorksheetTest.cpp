@@ -148,7 +148,8 @@ TEST_F(Worksheet, SolveIsOfferedForACompleteProblemOnly) {
             }
         }
     }
-    for (int type = 1; type < firstPaperTopic; ++type) EXPECT_TRUE(seen.count(type) == 1) << type;
+    for (const TopicRow& topic : topicTable())
+        EXPECT_NE(seen.count(topic.code) == 1, isOnPaper(topic.code)) << topic.code;
 }
 
 // What stands before or behind a box is the name under which the solver gets its text: the first
@@ -192,9 +193,10 @@ TEST_F(Worksheet, CaptionsNameTheValuesAsTheSolverDoes) {
 
 // Boxes as they are when a topic is opened; long numbers may grow over what stands behind them.
 TEST_F(Worksheet, NothingOnThePictureOverlapsOrSticksOut) {
-    for (int type = 1; type < firstPaperTopic; ++type) {
-        SCOPED_TRACE(type);
-        ASSERT_TRUE(open(type));
+    for (const TopicRow& topic : topicTable()) {
+        if (isOnPaper(topic.code)) continue;
+        SCOPED_TRACE(topic.name);
+        ASSERT_TRUE(open(topic.code));
         const Control& picture = frmPaper.Picture3;
         EXPECT_TRUE(picture.Visible);
         // The first line of a solution is drawn 43 below the pen.
@@ -286,9 +288,9 @@ TEST_F(Worksheet, OpensEmptyWithTheHintAndTheCommandsOfTheTopic) {
         EXPECT_EQ(frmMain.mnuDivision.Enabled, each.divide);
         EXPECT_EQ(frmMain.mnuAddition.Enabled, each.signs);
         EXPECT_EQ(frmMain.mnuSubtraction.Enabled, each.signs);
-        EXPECT_EQ(frmPaper.Picture3.Visible, each.type < firstPaperTopic);
-        EXPECT_EQ(frmPaper.deskPencil.Visible, each.type < firstPaperTopic);
-        EXPECT_EQ(frmPaper.Pencil.Visible, each.type >= firstPaperTopic);
+        EXPECT_EQ(frmPaper.Picture3.Visible, !isOnPaper(each.type));
+        EXPECT_EQ(frmPaper.deskPencil.Visible, !isOnPaper(each.type));
+        EXPECT_EQ(frmPaper.Pencil.Visible, isOnPaper(each.type));
         EXPECT_EQ(ws.StepNotes[ws.ShownStep], ws.HintText);
         EXPECT_FALSE(ws.HintText.empty());
         EXPECT_TRUE(ws.InputOpen);
