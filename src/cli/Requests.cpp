@@ -15,6 +15,7 @@
 #include "SavedProblems.hpp"
 #include "SettingsTable.hpp"
 #include "SolveDriver.hpp"
+#include "StepDisplay.hpp"
 #include "TextTools.hpp"
 #include "WantedForms.hpp"
 #include "WindowRoutines.hpp"
@@ -145,19 +146,16 @@ void writeWorksheet(JsonText& answer, const std::string& markup, const std::vect
 }
 
 void writeSteps(JsonText& answer, bool run, const WantedForms& forms) {
-    const auto add = [&](int i) {
-        answer.object([&] {
-            answer.member("index").number(i);
-            answer.member("line").string(ws.StepLines[i]);
-            answer.member("note").string(ws.StepNotes[i]);
-            forms.write(answer, ws.ProblemType, ws.StepLines[i], ws.StepNotes[i]);
-        });
-    };
+    const int last = run ? lastShownStep() : 0;
     answer.member("steps").array([&] {
-        if (!run) return;
-        for (int i = 1; i < ws.StepCount; ++i) add(i);
-        // A thinned solution of one step ends one short of its line.
-        if (ws.StepCount <= lastStep && !ws.StepLines[ws.StepCount].empty()) add(ws.StepCount);
+        for (int i = 1; i <= last; ++i) {
+            answer.object([&] {
+                answer.member("index").number(i);
+                answer.member("line").string(ws.StepLines[i]);
+                answer.member("note").string(ws.StepNotes[i]);
+                forms.write(answer, ws.ProblemType, ws.StepLines[i], ws.StepNotes[i]);
+            });
+        }
     });
 }
 

@@ -1,6 +1,7 @@
 // The branches that the expression engine solves.
 #include "SolveDispatch.hpp"
 
+#include "SolveDriver.hpp"
 #include "StepDisplay.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
@@ -64,8 +65,7 @@ void solveRoots() {
 void solveFractionArithmetic() {
     CanonToTokens();
     NormaliseSigns();
-    ws.UseFractions = true;
-    ws.UseDecimals = false;
+    showResultsAsFractions(true);
     CommitStep();
     int bars = 0;
     for (int i = 0; i <= ws.TokenLast; ++i) {

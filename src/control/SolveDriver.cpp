@@ -7,6 +7,7 @@
 #include "Workspace.hpp"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ordwise {
@@ -32,9 +33,12 @@ void beginRun() {
     frmPaper.Pencil.Image = "pencil1";
     platform.windows->unload("frmGraph");
     ws.StepCount = 1;
-    ws.CurrentNote.clear();  // the last rule's of the problem before would stand at the first line
+    // What the problem before has left would stand at the first line, or keep it from being recorded.
+    ws.CurrentNote.clear();
+    ws.LastLine.clear();
     for (std::string& line : ws.StepLines) line.clear();
     ws.ShownStep = frmMain.mnuShowStep.Checked ? 2 : 0;
+    ws.LineInView.clear();
     ws.GraphKind = 0;
 }
 
@@ -91,20 +95,34 @@ void StepThinning() {
     };
     std::vector<Step> kept;
     const int last = ws.StepCount - 1;
+    if (last < 2) return;
     for (int i = 2; i < last; ++i) {
         if (i % ws.StepDetail == 0) kept.push_back({ws.StepLines[i], ws.StepNotes[i]});
     }
     const bool onlyTheLast = kept.empty();
     kept.push_back({ws.StepLines[last], ws.StepNotes[last]});
-    for (int i = 2; i <= last; ++i) {
-        const std::size_t place = static_cast<std::size_t>(i) - 2;
-        const Step step = place < kept.size() ? kept[place] : Step{};
-        ws.StepLines[i] = step.line;
-        ws.StepNotes[i] = step.note;
+    // The display has gone through the steps as they were, or is at the first of them. So the last one
+    // keeps its note, which the assistant may be standing at, and where it is all that is left to draw
+    // also its line.
+    if (!onlyTheLast) ws.StepLines[last].clear();
+    for (int i = 2; i < last; ++i) {
+        ws.StepLines[i].clear();
+        ws.StepNotes[i].clear();
     }
-    // With nothing kept before it, the count ends one short of the last line. It stays so: the
-    // display has been drawn by then, and a saved or printed solution looks one line further.
-    ws.StepCount = onlyTheLast ? 2 : 2 + static_cast<int>(kept.size());
+    int place = 2;
+    for (Step& step : kept) {
+        ws.StepLines[place] = std::move(step.line);
+        ws.StepNotes[place] = std::move(step.note);
+        ++place;
+    }
+    // With nothing kept before it, the count ends one short of the last line; see lastShownStep.
+    ws.StepCount = onlyTheLast ? 2 : place;
+}
+
+void showResultsAsFractions(bool fractions) {
+    ws.UseFractions = fractions;
+    ws.UseDecimals = !fractions;
+    frmMain.Toolbar1[MainWindow::buttonFracdec].Image = fractions ? "fracdec" : "fracdec2";
 }
 
 }  // namespace ordwise

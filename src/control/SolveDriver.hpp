@@ -15,4 +15,7 @@ void compute_Click();
 // the topic solvers, whose steps carry no class, are left whole.
 void StepThinning();
 
+// Results come as fractions or as decimals from here on, and the button shows which.
+void showResultsAsFractions(bool fractions);
+
 }  // namespace ordwise

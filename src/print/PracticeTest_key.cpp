@@ -3,6 +3,7 @@
 #include "PracticeTest.hpp"
 
 #include "Catalogue.hpp"
+#include "StepDisplay.hpp"
 #include "TextTools.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
@@ -59,10 +60,7 @@ std::string plainLine(const std::string& line) {
 
 std::vector<std::string> stepsOnDesk() {
     Lines lines;
-    for (int i = 1; i < ws.StepCount; ++i) lines.push_back(plainLine(ws.StepLines[i]));
-    // A thinned solution of one step ends one short of its line.
-    if (ws.StepCount <= lastStep && !ws.StepLines[ws.StepCount].empty())
-        lines.push_back(plainLine(ws.StepLines[ws.StepCount]));
+    for (int i = 1; i <= lastShownStep(); ++i) lines.push_back(plainLine(ws.StepLines[i]));
     if (lines.empty()) lines.push_back(answerOnDesk());
     return lines;
 }

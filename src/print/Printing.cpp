@@ -5,6 +5,7 @@
 #include "Platform.hpp"
 #include "PrintWindows.hpp"
 #include "PrintingPages.hpp"
+#include "StepDisplay.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 
@@ -38,12 +39,6 @@ void printOwnHeading(PageSurface& page) {
     page.printLine("");
 }
 
-// A solution of a single line has its count end one short of it.
-int lastPrintedStep() {
-    const int next = ws.StepCount;
-    return next <= lastStep && !ws.StepLines[next].empty() ? next : next - 1;
-}
-
 void printExplanation(PageSurface& page, const std::string& note) {
     page.FontFace = Face::Note;
     page.FontSize = explanationPoints;
@@ -64,7 +59,7 @@ void printExplainedStep(PageSurface& page, const std::string& line, const std::s
 // Slot 0 holds no step: its note is the hint how to type a problem.
 void layOutSolution(PageSurface& page, bool withExplanations) {
     printOwnHeading(page);
-    for (int i = 1; i <= lastPrintedStep(); ++i) {
+    for (int i = 1; i <= lastShownStep(); ++i) {
         if (withExplanations) {
             printExplainedStep(page, ws.StepLines[i], ws.StepNotes[i]);
         } else {
@@ -77,7 +72,7 @@ void layOutSolution(PageSurface& page, bool withExplanations) {
 void printProblem(PageSurface& page) {
     const std::string problem = ws.StepLines[1].empty() ? ImplodeCanon() : ws.StepLines[1];
     PrintLine(problem, page, false);
-    const std::string& solved = ws.StepLines[std::max(lastPrintedStep(), 0)];
+    const std::string& solved = ws.StepLines[std::max(lastShownStep(), 0)];
     if (!solved.empty() && solved != problem) PrintLine(solved, page, false);
 }
 

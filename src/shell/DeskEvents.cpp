@@ -7,8 +7,6 @@
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 
-#include <algorithm>
-
 namespace ordwise {
 namespace {
 
@@ -30,15 +28,6 @@ std::string asTyped(std::string_view markup) {
         keys += c;
     }
     return keys;
-}
-
-// The last step that has a line; a step may have a note only.
-std::string shownLine() {
-    const int last = ws.ShownStep > 0 ? std::min<int>(ws.ShownStep, ws.StepCount - 1) : ws.StepCount - 1;
-    for (int step = last; step >= 1; --step) {
-        if (!ws.StepLines[step].empty()) return ws.StepLines[step];
-    }
-    return "";
 }
 
 }  // namespace
@@ -76,8 +65,9 @@ bool statusIsRefusal() {
 }
 
 std::string spokenLineInView() {
-    if (ws.InputOpen) return spokenLine(ImplodeCanon(), lettersOf(ws.ProblemType));
-    return spokenLine(shownLine(), lettersOf(ws.ProblemType));
+    const auto letters = lettersOf(ws.ProblemType);
+    if (ws.InputOpen) return spokenLine(ImplodeCanon(), letters);
+    return spokenLine(ws.LineInView.empty() ? ws.StepLines[1] : ws.LineInView, letters);
 }
 
 }  // namespace ordwise

@@ -20,7 +20,7 @@ void Box_KeyPress(int number, std::string_view key);
 [[nodiscard]] std::string statusLine();
 [[nodiscard]] bool statusIsRefusal();
 
-// The mathematics in view in words: the step shown last, or what has been typed so far.
+// The mathematics in view in words: the line drawn last, or what has been typed so far.
 [[nodiscard]] std::string spokenLineInView();
 
 }  // namespace ordwise

@@ -9,6 +9,7 @@
 #include "WebPages.hpp"
 #include "Windows.hpp"
 #include "WorksheetErase.hpp"
+#include "WorksheetLayout.hpp"
 #include "Workspace.hpp"
 
 namespace ordwise {
@@ -72,9 +73,7 @@ void insertCharacter(std::string_view character) {
 }
 
 void mnuConvertDF_Click() {
-    ws.UseFractions = !ws.UseFractions;
-    ws.UseDecimals = !ws.UseFractions;
-    frmMain.Toolbar1[MainWindow::buttonFracdec].Image = ws.UseFractions ? "fracdec" : "fracdec2";
+    showResultsAsFractions(!ws.UseFractions);
 }
 
 void mnuPencil_Click() {
@@ -84,7 +83,11 @@ void mnuPencil_Click() {
 
 void mnuShowStep_Click() {
     toggle(frmMain.mnuShowStep);
-    if (!frmMain.mnuShowStep.Checked) {
+    if (ws.InputOpen) {
+        // The hint waits at the step that the assistant will be asked about.
+        ws.StepNotes[ws.ShownStep].clear();
+        offerHint();
+    } else if (!frmMain.mnuShowStep.Checked) {
         ws.ShownStep = 0;
     } else if (ws.ShownStep == 0) {
         ws.ShownStep = 2;

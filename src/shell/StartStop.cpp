@@ -5,6 +5,7 @@
 #include "RecentProblems.hpp"
 #include "SavedProblems.hpp"
 #include "SettingsFile.hpp"
+#include "SolveDriver.hpp"
 #include "StartWindows.hpp"
 #include "TextTools.hpp"
 #include "Windows.hpp"
@@ -13,14 +14,9 @@
 namespace ordwise {
 namespace {
 
-// The button shows the form in which results will come.
-void showFractionButton() {
-    frmMain.Toolbar1[MainWindow::buttonFracdec].Image = ws.UseFractions ? "fracdec" : "fracdec2";
-}
-
 void loadFrame(std::string_view commandLine) {
     ws.OpenedFilePath = trimmed(commandLine);
-    showFractionButton();
+    showResultsAsFractions(ws.UseFractions);
     const std::string& directory = platform.folders.savedProblems;
     if (!directory.empty()) platform.files->createDirectory(directory);
     if (!ws.OpenedFilePath.empty()) mnuLoad_Click();

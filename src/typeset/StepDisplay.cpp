@@ -14,16 +14,24 @@ Sheet& currentSheet() {
     return frmPaper.Paper[ws.CurrentSheet];
 }
 
+void showStep(int step, bool placeButton) {
+    const std::string& line = ws.StepLines[step];
+    PrintMathLine(line, placeButton);
+    // A step may have a note only.
+    if (!line.empty()) ws.LineInView = line;
+}
+
 void showAll() {
-    for (int i = 2; i <= ws.StepCount - 1; ++i) {
-        PrintMathLine(ws.StepLines[i], false);
+    const int last = lastShownStep();
+    for (int i = 2; i <= last; ++i) {
+        showStep(i, false);
         ws.ShownStep = i;
     }
     PlaceCheckMark();
 }
 
 void showLast() {
-    if (!ws.StepLines[ws.ShownStep].empty()) PrintMathLine(ws.StepLines[ws.ShownStep], false);
+    if (!ws.StepLines[ws.ShownStep].empty()) showStep(ws.ShownStep, false);
     PlaceCheckMark();
     // Only a student who steps through to the end is taken to the graph.
     if (ws.ProblemType == 105) {
@@ -37,12 +45,17 @@ void showLast() {
 
 }  // namespace
 
+int lastShownStep() {
+    const int next = ws.StepCount;
+    return next <= lastStep && !ws.StepLines[next].empty() ? next : next - 1;
+}
+
 void ShowSteps() {
     frmMain.MousePointer = ws.NormalPointer;
     if (ws.ShownStep == 0) {
         showAll();
     } else if (ws.ShownStep < ws.StepCount - 1) {
-        PrintMathLine(ws.StepLines[ws.ShownStep], true);
+        showStep(ws.ShownStep, true);
     } else {
         showLast();
     }

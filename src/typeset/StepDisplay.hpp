@@ -6,6 +6,10 @@
 
 namespace ordwise {
 
+// The last step of the solution on the desk, 0 before one. A thinned solution of which a single step
+// is left has its count end one short of it; whoever goes through the steps ends here instead.
+[[nodiscard]] int lastShownStep();
+
 // Draws the steps from 2 on: all of them and the check mark, or the one of ShownStep with the Next
 // Step button, or with the check mark if it is the last. Line 1 restates the problem and is not
 // drawn again.

@@ -101,11 +101,23 @@ TEST_F(DriverTest, ThinningKeepsEveryNthStepAndTheLast) {
     EXPECT_EQ(ws.StepCount, 5);
 }
 
-TEST_F(DriverTest, ASingleStepEndsOneShortOfItsLine) {
+// The display stands at the first step or at the last one by then: neither its note nor the only line
+// that is left may go.
+TEST_F(DriverTest, ThinningLeavesWhatIsStillToBeShown) {
     record(2);
     StepThinning();
     EXPECT_EQ(lines(), (std::vector<std::string>{"2"}));
     EXPECT_EQ(ws.StepCount, 2);
+
+    ws.StepDetail = 3;
+    record(3);
+    StepThinning();
+    EXPECT_EQ(lines(), (std::vector<std::string>{"3", "3"}));
+    EXPECT_EQ(ws.StepCount, 2);
+
+    record(8);
+    StepThinning();
+    EXPECT_EQ(ws.StepNotes[8], "note 8");
 }
 
 TEST_F(DriverTest, SolutionsThatTheEngineDidNotRecordAreLeftWhole) {

@@ -1,8 +1,10 @@
 #include "DeskEvents.hpp"
 
 #include "Catalogue.hpp"
+#include "Drawn.hpp"
 #include "FrameCommands.hpp"
 #include "PlainPlatform.hpp"
+#include "StepDisplay.hpp"
 #include "WindowRoutines.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
@@ -20,6 +22,7 @@ protected:
     }
 
     static void open(std::string_view topic) {
+        unloadWindow("frmPaper");
         TreeViewSelect(topic);
         loadWindow("frmPaper");
     }
@@ -27,6 +30,14 @@ protected:
     static void typeKeys(std::string_view keys) {
         for (const char key : keys) insertCharacter(std::string_view(&key, 1));
     }
+
+    // Types a problem on the open worksheet and solves it.
+    static void solve(std::string_view keys) {
+        typeKeys(keys);
+        mnuSolve_Click();
+    }
+
+    static std::string lastDrawn() { return runsOf(frmPaper.Paper[0].drawn()).back().text; }
 
     PlainPlatform outside;
 };
@@ -78,6 +89,72 @@ TEST_F(DeskEvents, what_is_typed_and_what_is_shown_can_be_heard) {
     mnuShowStep_Click();
     mnuSolve_Click();
     EXPECT_EQ(spokenLineInView(), "x equals 9");
+    open("Arithmetic");
+    solve("1+2");
+    EXPECT_EQ(spokenLineInView(), "3") << "the count of a single step ends one short of it";
+}
+
+TEST_F(DeskEvents, a_solution_ends_with_its_answer_at_every_detail) {
+    const struct {
+        const char* problem;
+        const char* answer;
+    } solutions[] = {{"x+2=9-3", "x=4"}, {"x+3=12", "x=9"}, {"2x+3=12+x", "x=9"}};
+    for (int detail = 1; detail <= 3; ++detail) {
+        for (const auto& each : solutions) {
+            SCOPED_TRACE(each.problem + std::string(" at ") + std::to_string(detail));
+            ws.StepDetail = static_cast<std::int16_t>(detail);
+            open("Solving Equations");
+            solve(each.problem);
+            EXPECT_NE(lastDrawn(), each.answer);
+            EXPECT_NE(spokenLineInView(), "x equals 9") << "what is not drawn yet is not told";
+            while (frmPaper.Paper[0].blinker.Visible) blinker_Click();
+            EXPECT_EQ(lastDrawn(), each.answer);
+
+            mnuErase_Click();
+            frmMain.mnuShowStep.Checked = false;
+            solve(each.problem);
+            EXPECT_EQ(lastDrawn(), each.answer);
+            outside.windows.requests.clear();
+            mnuExp_Click();
+            EXPECT_EQ(outside.windows.requests.back(), "+frmExplain");
+            frmMain.mnuShowStep.Checked = true;
+            mnuErase_Click();
+        }
+    }
+}
+
+TEST_F(DeskEvents, turning_steps_off_in_between_draws_a_short_solution_again) {
+    ws.StepDetail = 3;
+    open("Solving Equations");
+    solve("x+3=12");
+    mnuShowStep_Click();
+    blinker_Click();
+    EXPECT_EQ(lastDrawn(), "x=9");
+}
+
+TEST_F(DeskEvents, a_line_of_the_problem_before_is_a_line_again) {
+    open("Arithmetic");
+    solve("1/2");
+    mnuConvertDF_Click();
+    mnuErase_Click();
+    solve("1/2");
+    EXPECT_EQ(lastDrawn(), "0.5");
+    mnuErase_Click();
+    ws.LastLine = "2*2*3";
+    open("Exponential Notation");
+    solve("12");
+    EXPECT_EQ(ws.StepLines[2], "2*2*3");
+}
+
+TEST_F(DeskEvents, the_hint_goes_where_the_assistant_is_asked) {
+    open("Arithmetic");
+    for (int i = 0; i < 3; ++i) {
+        mnuShowStep_Click();
+        EXPECT_EQ(ws.StepNotes[ws.ShownStep], ws.HintText);
+    }
+    solve("5");
+    mnuShowStep_Click();
+    EXPECT_EQ(ws.StepNotes[ws.ShownStep], "") << "a problem without a step has nothing to explain";
 }
 
 TEST_F(DeskEvents, a_solution_begins_without_the_note_of_the_one_before) {
@@ -97,6 +174,11 @@ TEST_F(DeskEvents, options_change_the_desk_at_once) {
     mnuConvertDF_Click();
     EXPECT_EQ(frmMain.Toolbar1[MainWindow::buttonFracdec].Image, "fracdec2");
     EXPECT_FALSE(ws.UseFractions);
+    open("Fraction Arithmetic");
+    solve("1/2+1/3");
+    EXPECT_TRUE(ws.UseFractions);
+    EXPECT_EQ(frmMain.Toolbar1[MainWindow::buttonFracdec].Image, "fracdec") << "the button shows the form of results";
+    open("Arithmetic");
     mnuShowStep_Click();
     EXPECT_EQ(ws.ShownStep, 0);
     mnuShowStep_Click();

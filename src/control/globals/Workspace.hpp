@@ -85,7 +85,7 @@ struct Steps {
     std::string CurrentNote;                        // waiting for the next CommitStep
 };
 
-// The expression being worked on. Life: problem, LastLine and LastTermCount: process.
+// The expression being worked on. Life: problem; LastLine: solve; LastTermCount: process.
 struct ExpressionEngine : ExprStore {
     TokenArray TokenBuffer;  // the text, one token a slot; the master of the store
     Int16 TokenLast;
@@ -115,9 +115,10 @@ struct SolverResults {
 
 // Where the display stands. Life: problem.
 struct DisplayState {
-    Int16 CurrentSheet;   // the sheet being written, 0 to 9
-    Int16 ShownStep;      // the step that the explanation command refers to
-    double LineEndX = 0;  // end of the last line drawn; stops typing at 730
+    Int16 CurrentSheet;      // the sheet being written, 0 to 9
+    Int16 ShownStep;         // the step that the explanation command refers to
+    std::string LineInView;  // the line of the solution drawn last, "" while none of it is
+    double LineEndX = 0;     // end of the last line drawn; stops typing at 730
     double LineEndY = 0;
     Int16 DenominatorEndX;  // end of the last denominator drawn
     bool LineEndsInFraction = false;
