@@ -4,7 +4,6 @@
 // The ground is the tokens of the group, where a fraction is one token "a/b"; a whole number counts
 // as a/1. A group's text has its opening and closing tokens in front of and behind it.
 #include "BoundedArray.hpp"
-#include "Int16.hpp"
 #include "NumberText.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
@@ -14,6 +13,8 @@
 #include "basSolveOrders.hpp"
 
 #include <cmath>
+#include <cstdint>
+#include <limits>
 #include <utility>
 
 namespace ordwise {
@@ -113,13 +114,24 @@ std::string combinedNote(const ExprTerm& a, const ExprTerm& b, int sum) {
            ".";
 }
 
-// The first two terms of one denominator that are no factors; 0, 0 if there are none.
+double sumOf(const ExprTerm& a, const ExprTerm& b) {
+    return static_cast<double>(a.numerator) + static_cast<double>(b.numerator);
+}
+
+// The sum of two fractions is a 16-bit number; a larger one is left to the common denominator, whose
+// total is wider. e.g. not 95761/100 and 26671/100
+bool fitsCounter(double sum) {
+    return sum >= std::numeric_limits<std::int16_t>::min() && sum <= std::numeric_limits<std::int16_t>::max();
+}
+
+// The first two terms of one denominator that are no factors and whose sum fits; 0, 0 if there are none.
 std::pair<int, int> alikePair(int group) {
     for (int i = 1; i <= termCount(group); ++i) {
         for (int j = i + 1; j <= termCount(group); ++j) {
             const ExprTerm& a = termAt(group, i);
             const ExprTerm& b = termAt(group, j);
-            if (a.denominator == b.denominator && a.lead != "*" && b.lead != "*") return {i, j};
+            const bool alike = a.denominator == b.denominator && a.lead != "*" && b.lead != "*";
+            if (alike && fitsCounter(sumOf(a, b))) return {i, j};
         }
     }
     return {0, 0};
@@ -131,8 +143,7 @@ bool combineOnePair(int group) {
     if (i == 0) return false;
     const ExprTerm& a = termAt(group, i);
     const ExprTerm& b = termAt(group, j);
-    // The sum is a 16-bit number: past 32767 the problem overflows.
-    const Int16 sum = longOf(static_cast<double>(a.numerator) + static_cast<double>(b.numerator));
+    const int sum = longOf(sumOf(a, b));
     std::string terms;
     if (sum != 0) terms = signedText(sum) + (a.denominator == 1.0F ? "" : "/" + textOf(a.denominator));
     for (int t = 1; t <= termCount(group); ++t) {
@@ -199,8 +210,10 @@ public:
 
     void run() {
         ws.StepClass = 3;
-        expand();
-        multiplyOut();
+        if (!alreadyCommon()) {
+            expand();
+            multiplyOut();
+        }
         placeOverCommon();
         addNumerators();
         simplify();
@@ -212,6 +225,14 @@ private:
     }
     [[nodiscard]] std::string numerator(int k) const {
         return textOf(longOf(valueOf(list_.numList[k]) * valueOf(multiplier(k))));
+    }
+
+    // Fractions that were too large to be combined in pairs have their common denominator.
+    [[nodiscard]] bool alreadyCommon() const {
+        for (int k = 0; k < list_.count; ++k) {
+            if (list_.denList[k] != common_) return false;
+        }
+        return true;
     }
 
     // e.g. 1/2+1/3 -> [1/2]*3/3+[1/3]*2/2

@@ -159,10 +159,10 @@ bool dividesByZero(const Solution& solution) {
     return value && !value->isDefined();
 }
 
-// Whether the solution had come to numbers whose sum may pass 16 bits, where fractions of one
-// denominator are documented to overflow.
+// Whether the solution had come to numbers whose product may pass 32 bits, where fractions are
+// documented to overflow.
 bool reachesLargeNumbers(const Solution& solution) {
-    constexpr long half = 32768 / 2;
+    constexpr long root = 46340;
     if (solution.last().find('E') != std::string::npos) return true;
     std::string digits;
     for (const char c : solution.last() + " ") {
@@ -170,7 +170,7 @@ bool reachesLargeNumbers(const Solution& solution) {
             digits += c;
             continue;
         }
-        if (digits.size() > 9 || std::atol(digits.c_str()) >= half) return true;
+        if (digits.size() > 9 || std::atol(digits.c_str()) >= root) return true;
         digits.clear();
     }
     return false;
