@@ -188,14 +188,13 @@ bool settleNumbers(const std::string& variable) {
         return false;
     }
     CommitStep();
-    const std::string note =
-        "Since " + leftText + " equals " + rightText + " then " + variable + " can be any real number.";
+    const std::string equal = "Since " + leftText + " equals " + rightText;
     if (variable.empty()) {
         // A problem of numbers alone says so of itself.
-        ws.StepNotes[ws.StepCount - 1] = note;
-        ws.CurrentNote = note;
+        ws.CurrentNote = equal + " the equation is true.";
+        ws.StepNotes[ws.StepCount - 1] = ws.CurrentNote;
     } else {
-        concludeLastStep(leftText + "=" + rightText, note);
+        concludeLastStep(leftText + "=" + rightText, equal + " then " + variable + " can be any real number.");
     }
     return false;
 }

@@ -243,7 +243,7 @@ void ConvertOuncesToTons(const std::string& value) {
     AddStep("To convert from ounces (oz) to tons (T):", "First convert ounces to pounds, then convert pounds to tons.");
     AddStep("First, convert from ounces (oz) to pounds (lb):", "Convert ounces to pounds.");
     const std::string pounds = ConvertOuncesToPounds(value, /*standalone=*/false);
-    const std::string tons = ConvertPoundsToTons(pounds, /*standalone=*/false);
+    const std::string tons = addStage(poundsToTons, pounds);
     AddStep(text(value, " oz = ", tons, " T"), "Ounces converted to tons.");
     ShowSteps();
 }

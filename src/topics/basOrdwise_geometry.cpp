@@ -56,6 +56,22 @@ void findSimilarSide(const SimilarSide& side, double ratio) {
     AddStep(text(s, "2 = ", side.second), text("Solve for ", s, "2."));
 }
 
+// The side that gives the proportion: a2, else the only one of the other two that is there, else b2.
+const SimilarSide& knownSide(const std::array<SimilarSide, 3>& sides) {
+    const auto& [a, b, c] = sides;
+    if (!a.second.empty()) return a;
+    return b.second.empty() ? c : b;
+}
+
+// A given side fits if it shows the ratio, or is what the known side makes of it: the ratio is rounded,
+// and so may be what was typed.
+bool fits(const SimilarSide& side, const SimilarSide& known, double ratio) {
+    const double first = valueOf(side.first);
+    const double second = valueOf(side.second);
+    return rounded(first / second) == ratio ||
+           rounded(first * valueOf(known.second) / valueOf(known.first)) == rounded(second);
+}
+
 }  // namespace
 
 void SimilarTriangles(const std::string& a1, const std::string& b1, const std::string& c1, std::string& a2,
@@ -68,8 +84,9 @@ void SimilarTriangles(const std::string& a1, const std::string& b1, const std::s
 
     AddStep("The sides of a similar triangle are equally proportioned:", "In other words, #a1/a2# = #b1/b2# = #c1/c2#");
     const std::array<SimilarSide, 3> sides{{{"a", a1, a2}, {"b", b1, b2}, {"c", c1, c2}}};
-    const SimilarSide& known = !a2.empty() ? sides[0] : !c2.empty() ? sides[2] : sides[1];
-    if (!aboveZero(known.second)) {
+    const SimilarSide& known = knownSide(sides);
+    const auto noLength = [](const SimilarSide& side) { return !side.second.empty() && !aboveZero(side.second); };
+    if (!aboveZero(known.second) || std::any_of(sides.begin(), sides.end(), noLength)) {
         return complain("All sides of a triangle must have a length greater than zero.",
                         "It is impossible for a triangle to have a side less than or equal to 0.");
     }
@@ -80,6 +97,13 @@ void SimilarTriangles(const std::string& a1, const std::string& b1, const std::s
             "Use the side of the triangle given on both triangles to determine the other side's proportions.");
     AddStep(text("#", known.first, "/", known.second, "# = ", ratio),
             text("Divide ", known.first, " by ", known.second, "."));
+    for (const SimilarSide& side : sides) {
+        if (side.second.empty() || fits(side, known, ratio)) continue;
+        return complain(
+            text("#", side.first, "/", side.second, "# is not ", ratio, ", so the triangles are not similar."),
+            text("The ratio of every side must equal ", ratio, ", and #", side.letter, "1/", side.letter,
+                 "2# does not."));
+    }
     AddStep(text("#a1/a2# = #b1/b2# = #c1/c2# = ", ratio), text("The ratio of every side must equal ", ratio));
     for (const SimilarSide& side : sides) {
         if (side.letter != known.letter) findSimilarSide(side, ratio);

@@ -31,7 +31,7 @@ constexpr Unit units[] = {
     {"Converting Tons To Ounces", 32000, asSet, 16},
     {"Converting Pounds To Tons", 1.0 / 2000, 5},
     {"Converting Pounds To Ounces", 16, asSet},
-    {"Converting Ounces To Tons", 1.0 / 32000, asSet, 1.0 / 2000},
+    {"Converting Ounces To Tons", 1.0 / 32000, 5, 1.0 / 2000},
     {"Converting Ounces To Pounds", 1.0 / 16, asSet},
     {"Converting Miles To Yards", 1760, asIs},
     {"Converting Miles To Feet", 5280, asIs},

@@ -3,6 +3,8 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <iomanip>
+#include <sstream>
 
 namespace ordwise::test {
 
@@ -108,7 +110,7 @@ double roundedToTwo(double x) {
 }
 
 // a1 = T3, b1 = T2, c1 = T1; a2 = T4, b2 = T6, c2 = T5, one of the last three left empty. The known side
-// is a2, or c2 without it; the last line gives the last of the other two.
+// is a2, or b2 without it. What is given besides mostly fits; the last line gives c2.
 DrawnProblem drawSimilarTriangles(Draws& draws) {
     DrawnProblem drawn{{"Similar Triangles", ""}, {}};
     const auto side = [&](int box) {
@@ -120,22 +122,26 @@ DrawnProblem drawSimilarTriangles(Draws& draws) {
     const double b1 = side(2);
     const double c1 = side(1);
     const int missing = draws.oneOf<int>({4, 5, 6});
-    const double a2 = missing == 4 ? 0 : side(4);
-    const double c2 = missing == 5 ? 0 : side(5);
-    if (missing != 6) side(6);
-    const double known = missing == 4 ? c2 : a2;
-    if (a1 <= 0 || b1 <= 0 || c1 <= 0 || known <= 0) {
-        drawn.wanted.line = "All sides of a triangle must have a length greater than zero.";
-        return drawn;
-    }
+    const double known = side(missing == 4 ? 6 : 4);
+    const double exact = (missing == 4 ? b1 : a1) / known;
     // The ratio is shown and used with two places; a ratio that rounds to 0 divides by 0.
-    const double ratio = roundedToTwo((missing == 4 ? c1 : a1) / known);
-    if (ratio == 0) {
+    const double ratio = roundedToTwo(exact);
+    const bool contradicts = ratio >= 0.05 && draws.chance(20);
+    const double fitting = (missing == 5 ? b1 : c1) / exact;
+    std::ostringstream text;
+    text << std::setprecision(9) << std::nearbyint((contradicts ? 2 * fitting + 1 : fitting) * 1e4) / 1e4;
+    const std::string given = std::isfinite(fitting) ? text.str() : "1";
+    drawn.problem.boxes[missing == 5 ? 6 : 5] = given;
+    if (a1 <= 0 || b1 <= 0 || c1 <= 0 || known <= 0 || valueText(given) <= 0) {
+        drawn.wanted.line = "All sides of a triangle must have a length greater than zero.";
+    } else if (contradicts) {
+        drawn.wanted.part = "so the triangles are not similar.";
+    } else if (ratio == 0) {
         drawn.wanted.message = "Division by 0!";
-        return drawn;
+    } else {
+        drawn.wanted.last = c1 / ratio;
+        drawn.wanted.places = 2;
     }
-    drawn.wanted.last = (missing == 4 ? b1 : c1) / ratio;
-    drawn.wanted.places = 2;
     return drawn;
 }
 

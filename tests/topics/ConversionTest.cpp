@@ -28,7 +28,7 @@ TEST(Conversion, ShowsSoManyPlacesAsItsTopicWants) {
         {ConvertKilometersToMiles, "05.", "05. km = 3.105 mile(s)"},
         // A stage hands on what RoundPlaces leaves of it, here one place of 0.58333 feet.
         {ConvertInchesToYards, "7", "7 inches = 0.2 yards"},
-        {ConvertOuncesToTons, "5000", "5000 oz = 0.2 T"},
+        {ConvertOuncesToTons, "5000", "5000 oz = 0.15625 T"},
     };
     for (const auto& each : cases)
         EXPECT_EQ(solutionOf([&] { each.convert(each.value); }, 1).last(), each.last) << each.value;
