@@ -188,7 +188,7 @@ TEST_F(Examples, BeginWithoutTheOpenBarOfTheProblemBefore) {
 TEST_F(Examples, FindRoomOnThePaper) {
     chooseFresh("Absolute Values");
     ws.ComplexExamples = complexLevel;
-    for (const std::uint64_t seed : {1171, 4116}) {
+    for (const std::uint64_t seed : {1171U, 4116U}) {
         seedExample(ws.ProblemType, complexLevel, seed);
         for (int letter = 0; letter < ws.EquationMode; ++letter) (void)RandInt2to9();
         const Example example = example_Click();
