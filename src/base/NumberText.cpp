@@ -7,13 +7,14 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 
 namespace ordwise {
 namespace {
 
 constexpr int doubleDigits = 15;
 constexpr int singleDigits = 7;
-constexpr int smallestPlainExponent = -15;
+constexpr int leastPlainExponentOfDouble = -15;
 
 // A number as digits and a decimal exponent: 0.0325 is negative false, digits "325", exponent -2
 // (the first digit stands for that power of ten). Zero has no digits.
@@ -66,10 +67,10 @@ std::string plainForm(const Decimal& number) {
            number.digits.substr(static_cast<std::size_t>(whole));
 }
 
-std::string write(double value, int significant) {
+std::string write(double value, int significant, int leastPlainExponent) {
     if (isShortWhole(value, significant)) return std::to_string(static_cast<std::int64_t>(value));
     const Decimal number = decimalOf(inRange(value), significant);
-    const bool plain = number.exponent < significant && number.exponent >= smallestPlainExponent;
+    const bool plain = number.exponent < significant && number.exponent >= leastPlainExponent;
     return (number.negative ? "-" : "") + (plain ? plainForm(number) : exponentForm(number));
 }
 
@@ -169,11 +170,13 @@ std::string_view withoutBlanks(std::string_view text) {
 }  // namespace
 
 std::string textOf(double value) {
-    return write(value, doubleDigits);
+    return write(value, doubleDigits, leastPlainExponentOfDouble);
 }
 
 std::string textOf(float value) {
-    return write(static_cast<double>(value), singleDigits);
+    constexpr float least = std::numeric_limits<float>::min();
+    if (std::fabs(value) < least) return "0";
+    return write(static_cast<double>(value), singleDigits, std::numeric_limits<float>::min_exponent10 - 1);
 }
 
 std::string textOf(int value) {

@@ -3,8 +3,9 @@
 // A number is written as a person writes it: shortest decimal, no leading blank, a "-" in front
 // when negative, "0.5" and not ".5", minus zero as "0". Doubles carry up to 15 significant digits
 // and singles up to 7. A value whose whole part has more digits than that goes to the E form with
-// at least two digits of exponent ("1E+15", "9.998E+07"); small values stay plain decimals down to
-// 1E-15, since a student reads 0.00001 and not 1E-05, and take the E form below it.
+// at least two digits of exponent ("1E+15", "9.998E+07"). Small values stay plain decimals, since a
+// student reads 0.00001 and not 1E-05: doubles down to 1E-15, and singles, which the engine reads
+// again, all of them; below 1.2E-38, where a single loses its digits, they are 0.
 #pragma once
 
 #include <cstdint>

@@ -110,7 +110,7 @@ const Branch branches[] = {
     {150, [](P)   { solveNegativeExponents(); }},
     {101, [](P)   { solveEquations(); }},
     {122, [](P)   { solveEquations(); }},
-    {102, [](P)   { expandAndShow(); }},
+    {102, [](P)   { simplifyPolynomial(); }},
     {121, [](P)   { expandAndShow(); }},
     {103, [](P)   { evaluatePolynomials(); }},
     {105, [](P)   { solveLinearEquationForGraph(); }},

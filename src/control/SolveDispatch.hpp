@@ -9,7 +9,8 @@ namespace ordwise {
 void solveByType(int problemType);
 
 // The branches that the engine solves.
-void expandAndShow();             // 81, 91, 102, 120, 121
+void expandAndShow();             // 81, 91, 120, 121
+void simplifyPolynomial();        // 102
 void solveNegativeExponents();    // 150
 void solveEquations();            // 101, 122
 void evaluatePolynomials();       // 103

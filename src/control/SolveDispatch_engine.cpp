@@ -28,10 +28,18 @@ void expandAndShow() {
     ShowSteps();
 }
 
+void simplifyPolynomial() {
+    prepareEngine();
+    ExpandPolynomial();
+    OrderLastLine();
+    ShowSteps();
+}
+
 void solveNegativeExponents() {
     prepareEngine();
     ReduceExpression(0, false, true);
     ExpandPolynomial();
+    OrderLastLine();
     ShowSteps();
 }
 

@@ -42,9 +42,10 @@ struct TermPass {
 
     BoundedArray<LikeBin, lastBin> bins;
     Int16 binNext = 1;
-    bool changed = false;  // the pass has made its rewrite
-    Int16 numberTerms;     // plain numbers met; the second one is added to the first
-    int numberTerm = 0;    // the first of them
+    bool changed = false;    // the pass has made its rewrite
+    bool dropsZero = false;  // which takes a term 0 out
+    Int16 numberTerms;       // plain numbers met; the second one is added to the first
+    int numberTerm = 0;      // the first of them
     int lastTermRead = 0;
     std::vector<TermPiece> pieces;  // the terms read, in their order
 };

@@ -16,6 +16,7 @@ namespace ordwise {
 struct CommitOptions {
     bool silent = false;          // bring the store up to date, record nothing
     bool stopWhenStable = false;  // an unchanged number of terms counts as no progress
+    bool reordered = false;       // the rearrangement is the step itself, and is recorded as one
 };
 
 // Tokens, store and line of the text in the TokenBuffer; records the line with CurrentNote unless
@@ -71,6 +72,9 @@ void MultiplyGroups(int depth, int groupA, int groupB);
 bool ExpandPower(int depth, int group);
 // The product of two letter parts. e.g. "x^2", "x" -> "x^3"; "~2", "~8" -> "~16"
 [[nodiscard]] std::string MultiplyLetterParts(const std::string& a, const std::string& b);
+// The note of a product of two roots.
+inline const std::string rootProductNote =
+    "When multiplying square roots multiply values under radical to form the new square root.";
 // Coefficient and letters in lowest form, "top/bottom" or "top", without a sign. A number without
 // letters ends in "^1". e.g. "x^-2", 9, "", 6 -> "3/2x^2"; "", 4, "", 2 -> "2^1"
 [[nodiscard]] std::string NegativeExponentText(const std::string& numText, float numerator, const std::string& denText,
@@ -93,6 +97,14 @@ void dropStarInFront(int depth, int group);
 
 // --- order: basFormattingEq_order.cpp
 
+// The note of a text that was only rearranged.
+inline const std::string reorderNote = "Reorder the polynomial.";
+// The letters of a line's terms with their exponents, a "+" in front of each term, without numbers: it
+// tells in which order the terms stand. e.g. "3-2x^2^" -> "++x^2^", "y=2x-3" -> "+y=+x+"
+[[nodiscard]] std::string outlineOf(const std::string& line);
+// The terms of a line without parentheses stand in decreasing order of exponent; what has none above
+// the bar, or a negative one, goes behind. e.g. true for "x^2^+3+#1/x#", false for "5+3x"
+[[nodiscard]] bool standsInOrder(const std::string& line);
 // Works out the products of a group, a visible step each. e.g. 2+3*4 -> 2+12
 void OrderPolynomial(int group);
 // Makes a group of the factor that stands behind a group, with no step. e.g. (a+b)3x -> (a+b)(+3x)

@@ -13,7 +13,6 @@ namespace {
 
 // Topics and notes that the record treats on their own.
 constexpr int evaluatingPolynomials = 103;
-const std::string reorderNote = "Reorder the polynomial.";
 const std::string removeNote = "Remove the parenthesis.";
 
 bool isHighlight(char c) {
@@ -66,7 +65,8 @@ void decide(const std::string& line, CommitOptions options) {
     }
     // Where values are put in for letters, losing the highlight alone is no step.
     const bool onlyHighlight = ws.ProblemType == evaluatingPolynomials && isWithoutHighlight(line, ws.LastLine);
-    if (!options.silent && !onlyHighlight && !isSuppressed(line)) recordStep(line);
+    const bool suppressed = !options.reordered && isSuppressed(line);
+    if (!options.silent && !onlyHighlight && !suppressed) recordStep(line);
 }
 
 // Merges and parses the tokens. Two commits of three bring a text that has just been parsed, as the

@@ -10,7 +10,9 @@
 #include "basFormattingEq.hpp"
 #include "basReduceFunc.hpp"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 namespace ordwise {
@@ -116,6 +118,7 @@ std::string multiplyBetween(int first, int last) {
 // e.g. "3,4" -> "Multiply 3 by 4 using the order of operations."
 std::string productNote(const std::string& pair) {
     const std::vector<std::string> factors = split(pair, ',');
+    if (contains(factors[0], "~") && contains(factors[1], "~")) return rootProductNote;
     return "Multiply " + markupOf(factors[0]) + " by " + markupOf(factors[1]) + " using the order of operations.";
 }
 
@@ -158,13 +161,48 @@ void OrderPolynomial(int group) {
     }
 }
 
+std::string outlineOf(const std::string& line) {
+    std::string outline;
+    const std::vector<std::string> pieces = split(line, '^');
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        // Every other piece is an exponent; one that was left out is none.
+        if (i % 2 == 1) {
+            if (pieces[i] != "?") outline += "^" + pieces[i] + "^";
+            continue;
+        }
+        char before = 0;
+        for (const char c : pieces[i]) {
+            const bool sign = (c == '+' || c == '-') && before != 'E';
+            const bool begins = c != '=' && (outline.empty() || outline.back() == '=');
+            if (sign || begins) outline += '+';
+            if ((c >= 'a' && c <= 'z') || c == '/' || c == '=') outline += c;
+            before = c;
+        }
+    }
+    return outline;
+}
+
+bool standsInOrder(const std::string& line) {
+    const std::string outline = outlineOf(line);
+    double last = std::numeric_limits<double>::max();
+    for (const std::string& term : split(outline.substr(std::min<std::size_t>(outline.size(), 1)), '+')) {
+        const std::string above = term.substr(0, term.find('/'));
+        const std::size_t caret = above.find('^');
+        const double exponent = caret == std::string::npos ? 1.0 : lenientValueOf(above.substr(caret + 1));
+        const double degree = above.empty() || above[0] == '^' ? 0.0 : std::max(0.0, exponent);
+        if (degree > last) return false;
+        last = degree;
+    }
+    return true;
+}
+
 void WrapFactorBehind(int group) {
     const int c = groupOf(ws.MaxDepth, group).closeIndex;
     const int first = token(c + 1) == "*" ? c + 2 : c + 1;
     int end = first;
     while (!endsFactor(end)) ++end;
     ExplodeTokens(tokensText(0, c) + "(+" + tokensText(first, end - 1) + ")" + tokensText(end, ws.TokenLast));
-    ws.CurrentNote = "Reorder the polynomial.";
+    ws.CurrentNote = reorderNote;
     CommitStep();
 }
 

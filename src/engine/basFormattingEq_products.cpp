@@ -61,7 +61,7 @@ double radicandOf(const std::string& part) {
 
 // e.g. "~2", "~8" -> "~16"
 std::string rootProduct(const std::string& a, const std::string& b) {
-    ws.CurrentNote = "When multiplying square roots multiply values under radical to form the new square root.";
+    ws.CurrentNote = rootProductNote;
     return "~" + textOf(radicandOf(a) * radicandOf(b));
 }
 
@@ -228,8 +228,10 @@ std::string markupOf(const std::string& tokenText) {
             open = 0;
         }
         if (c == '^' || c == '~') open = c;
+        const char behind = at + 1 < plain.size() ? plain[at + 1] : ' ';
+        // The E of 1E+07 is no letter of the problem, all of which are small.
         const bool needlessOne = c == '1' && open == 0 && (before == '+' || before == '-') &&
-                                 (IsLetter(plain.substr(at + 1, 1)) || plain.compare(at + 1, 1, "~") == 0);
+                                 ((behind >= 'a' && behind <= 'z') || behind == '~');
         if (!needlessOne) closed += c;
     }
     if (open != 0) closed += open;

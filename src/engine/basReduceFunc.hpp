@@ -67,8 +67,8 @@ void SimplifyRadicals();
 // The powers of numbers of a group written out and committed. Fault 11 for a negative power of 0.
 // e.g. 2^3+1 -> 2*2*2+1, 5^0 -> 1
 void ExpandPowers(int group);
-// The same, the products worked out and a factor in front multiplied in; false if no number has a
-// power. e.g. 2(3^2+x) -> 2(3*3+x) -> 2(9+x) -> (18+2x)
+// The same, and the products worked out; false if no number has a power. A factor in front waits
+// until the group is reduced. e.g. 2(3^2+x) -> 2(3*3+x) -> 2(9+x)
 bool ExpandIfPowers(int group);
 // A bar group of one number; false, and nothing done, for any other. e.g. |-5| -> 5
 bool AbsoluteValueStep(int group);

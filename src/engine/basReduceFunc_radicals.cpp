@@ -202,12 +202,6 @@ bool ExpandIfPowers(int group) {
     if (!powers) return false;
     ExpandPowers(group);
     OrderPolynomial(group);
-    const ExprGroup& record = groupOf(depth, group);
-    const bool factorWaits = record.prefixCoef != 1 && record.power == 1 && record.nextGroup == -1;
-    if (depth > 0 && ws.MaxDepth == depth && factorWaits && hasFactorInFront(depth, group)) {
-        DistributeFactor(depth, group);
-        CommitStep();
-    }
     return true;
 }
 

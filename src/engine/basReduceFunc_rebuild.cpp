@@ -38,6 +38,14 @@ int degreeOf(const ExprTerm& term) {
     return std::max(0, static_cast<int>(term.varExp[2]));
 }
 
+bool isOrdered(int group) {
+    const int depth = ws.MaxDepth;
+    for (int t = 2; t <= ws.TermLast[depth][group]; ++t) {
+        if (degreeOf(termOf(depth, group, t - 1)) < degreeOf(termOf(depth, group, t))) return false;
+    }
+    return true;
+}
+
 // A text as far as order goes: without marks, exponents 1 and coefficients 1.
 // e.g. "+1x[-2]" -> "+x-2"
 std::string bare(const std::string& text) {
@@ -51,14 +59,14 @@ std::string bare(const std::string& text) {
     return out;
 }
 
-// The hint is given once in a problem, when order alone changes a polynomial without parentheses.
-bool hintIsOpen(const TermPass& pass) {
-    return !pass.variable.empty() && ws.MaxDepth == 0 && !ws.LeadingTermHintShown[ws.MaxDepth];
-}
-
-bool hintIsDue(const TermPass& pass, const std::string& ordered) {
-    if (!contains(ordered, pass.variable) || contains(ordered, "*")) return false;
-    return bare(ordered) > bare(pass.textBefore);
+// The hint is given once in a problem, when order alone changes a polynomial without parentheses:
+// the ordered text if it is due, "" if it is not.
+std::string orderToTell(const TermPass& pass) {
+    if (pass.variable.empty() || ws.MaxDepth != 0 || ws.LeadingTermHintShown[ws.MaxDepth]) return "";
+    if (isOrdered(pass.group)) return "";
+    std::string ordered = OrderedPolynomialText(pass.group);
+    if (!contains(ordered, pass.variable) || contains(ordered, "*")) return "";
+    return bare(ordered) > bare(pass.textBefore) ? ordered : "";
 }
 
 void commitText(const std::string& text, bool silent) {
@@ -66,17 +74,13 @@ void commitText(const std::string& text, bool silent) {
     CommitStep({.silent = silent});
 }
 
-// The hint with the ordered polynomial as a step of its own; false if it is not due.
-bool commitHint(const TermPass& pass) {
-    if (!hintIsOpen(pass)) return false;
-    const std::string ordered = OrderedPolynomialText(pass.group);
-    if (!hintIsDue(pass, ordered)) return false;
+// The ordered polynomial with the hint, as a step of its own.
+void commitHint(const std::string& ordered) {
     const std::string noteKept = ws.CurrentNote;
     ws.LeadingTermHintShown[ws.MaxDepth] = true;
     ws.CurrentNote = leadingTermHint;
     commitText(ordered, false);
     ws.CurrentNote = noteKept;
-    return true;
 }
 
 }  // namespace
@@ -99,12 +103,16 @@ std::string rebuiltText(const TermPass& pass) {
 }
 
 void commitRebuilt(const TermPass& pass, const std::string& newText, bool silent) {
-    if (!silent && commitHint(pass)) {
+    const std::string ordered = silent ? "" : orderToTell(pass);
+    if (!ordered.empty() && !pass.dropsZero) {
+        commitHint(ordered);
         commitText(newText, true);
         commitText(OrderedPolynomialText(pass.group), true);
         return;
     }
     commitText(newText, true);
+    // A zero goes before the hint: what is left may stand in order. e.g. y=0-x -> y=-x
+    if (!ordered.empty()) return;
     if (!pass.variable.empty() && contains(newText, pass.variable) && !contains(newText, "*"))
         ExplodeTokens(OrderedPolynomialText(pass.group));
 }

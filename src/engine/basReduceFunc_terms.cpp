@@ -235,12 +235,10 @@ bool keepFraction(TermPass& pass, const ExprTerm& term) {
     return true;
 }
 
-// A number with an exponent that is no positive whole one is left to the rule that writes powers
-// out. e.g. 2^-2
+// A number with an exponent is left to the rule that writes powers out: added at once, its value
+// would stand in the note and in no line. e.g. 2^3, 2^-2
 bool keepConstantPower(TermPass& pass, const ExprTerm& term) {
     if (!isPlainNumber(term) || !isConstantPower(term)) return false;
-    const double exponent = static_cast<double>(term.varExp[1]);
-    if (exponent > 0 && isWhole(exponent) && term.denominator == 1.0F) return false;
     copy(pass, term);
     return true;
 }
@@ -273,12 +271,10 @@ bool roundResult(TermPass& pass, const ExprTerm& term) {
     return true;
 }
 
-// e.g. 14-5 -> 9, 2^3+1 -> 9
+// e.g. 14-5 -> 9
 bool addNumber(TermPass& pass, const ExprTerm& term) {
     if (!isPlainNumber(term)) return false;
-    const TermNumbers written = valuesOf(term);
-    const double size = std::pow(std::fabs(written.above), static_cast<double>(term.varExp[1]));
-    countNumber(pass, term, written.above < 0 ? -size : size, written.below, "");
+    countNumber(pass, term, valuesOf(term).above, valuesOf(term).below, "");
     return true;
 }
 
@@ -322,6 +318,7 @@ void dropZero(TermPass& pass, int index) {
     const ExprTerm& zero = termAt(pass, index);
     const std::string verb = zero.lead == "-" ? "Subtract " : "Add ";
     const std::string size = "0" + markupOf(lettersOf(zero));
+    pass.dropsZero = true;
     markChanged(pass,
                 verb + size + (zero.lead == "-" ? " from " : " and ") + name + " to form the new term (" + name + ").");
 }
@@ -348,7 +345,7 @@ constexpr Rule rules[] = {
     simplifyFraction,     // before a fraction is counted or kept
     countFraction,        // among letters a fraction is a number
     keepFraction,         // what is left of the written fractions
-    keepConstantPower,    // before plain numbers, which a positive power is
+    keepConstantPower,    // before plain numbers, which a power would look like
     convertDecimal,       // before numbers are added: fractions are added by their own method
     roundResult,          // a single number has nothing to be added to
     addNumber,            // what is left of the numbers

@@ -19,6 +19,9 @@ void ReduceAllGroups();
 // The top of simplifying: powers, products, parentheses and like terms until nothing changes.
 // e.g. 3(x+2)-2(x-1) -> x+8
 void ExpandPolynomial();
+// The last line in decreasing order where it does not stand so: a step of its own, with the leading
+// term hint if it has not been given. e.g. 4x+3+2x^2 -> 2x^2+4x+3
+void OrderLastLine();
 // The roots topic. e.g. 3~4+2~9 -> 12
 void ReduceFinalRadicals();
 // The topic "Exponential Notation". e.g. 12 -> 2*2*3 -> 2^2*3

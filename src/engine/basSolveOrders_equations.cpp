@@ -212,10 +212,10 @@ bool solveForOther(const std::string& variable, const std::string& other) {
 }
 
 // The line holds what the last step's line holds, in another order: a rearrangement that no step
-// has shown yet. e.g. y=3+2x and y=2x+3
+// has shown yet. e.g. y=-3+2x and y=2x-3
 bool onlyReordered() {
-    std::string before = ws.LastLine;
-    std::string now = CanonicalLine();
+    std::string before = outlineOf(ws.LastLine);
+    std::string now = outlineOf(CanonicalLine());
     std::sort(before.begin(), before.end());
     std::sort(now.begin(), now.end());
     return before == now;

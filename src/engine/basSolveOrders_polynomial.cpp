@@ -45,7 +45,6 @@ bool freeOneGroup() {
 
 // e.g. (2*3+x) -> (6+x), (x+x) -> (2x)
 bool simplifyGroup(int depth, int group) {
-    // With the powers a factor in front may be multiplied in, and the group behind takes its number.
     if (freeOneGroup() || ExpandIfPowers(group)) return true;
     if (ws.GroupProduct[depth][group]) OrderPolynomial(group);
     if (!isGroup(depth, group) || ExpandPrefixPower(group)) return true;
@@ -183,6 +182,13 @@ void commitText(const std::string& text, const std::string& note) {
 
 constexpr double valueLimit = 999999999;
 
+// A number so small that a double would be written in the E form is written as a single is.
+// e.g. 1E-16 -> "0.0000000000000001"
+std::string answerText(double value) {
+    const std::string text = textOf(value);
+    return contains(text, "E-") ? textOf(static_cast<float>(value)) : text;
+}
+
 // Asks until the answer is a number below the limit.
 std::string askValue(const std::string& name) {
     while (true) {
@@ -191,15 +197,20 @@ std::string askValue(const std::string& name) {
             platform.dialogs->messageBox("Please enter a number to replace for " + name, name + " = ?",
                                          MessageButtons::Ok);
         } else if (valueOf(answer) < valueLimit) {
-            return textOf(valueOf(answer));
+            return answerText(valueOf(answer));
         }
     }
 }
 
-// e.g. +1x^2-x with x = 3 -> "+[(3)]^2-[(3)]"
+// The coefficient 1 of a letter is not written in front of its value; the 1 of an exponent stays.
+// e.g. +1x^2-1x with x = 3 -> "+[(3)]^2-[(3)]", x^-1y with y = 3 -> "x^-1[(3)]"
 std::string substituted(const std::string& text, const std::string& name, const std::string& value) {
-    const std::string put = replaced(text, name, "[(" + value + ")]");
-    return replaced(replaced(put, "+1[", "+["), "-1[", "-[");
+    std::string put = replaced(text, name, "[(" + value + ")]");
+    for (std::size_t one = put.find("1["); one != std::string::npos; one = put.find("1[", one + 1)) {
+        const bool behindSign = one > 0 && IsSign(put.substr(one - 1, 1));
+        if (behindSign && (one < 2 || put[one - 2] != '^')) put.erase(one, 1);
+    }
+    return put;
 }
 
 }  // namespace
@@ -216,6 +227,14 @@ void ExpandPolynomial() {
         rounds = ws.MaxDepth == depth ? rounds + 1 : 0;
     }
     ReduceExpression(0);
+}
+
+void OrderLastLine() {
+    // The line and not the store is looked at: the text may have been put in order without a step.
+    if (ws.MaxDepth != 0 || tokensHold('*') || standsInOrder(ws.LastLine)) return;
+    ws.CurrentNote = ws.LeadingTermHintShown[0] ? reorderNote : leadingTermHint;
+    ExplodeTokens(OrderedPolynomialText(0));
+    CommitStep({.reordered = true});
 }
 
 void ReduceFinalRadicals() {

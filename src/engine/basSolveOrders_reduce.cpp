@@ -41,11 +41,17 @@ void reduceRoots(int group, bool silent, bool stopFlag) {
     if (ws.TermLast[0][0] != before) CommitStep();
 }
 
+// What stands beside a group that has just been freed has not been looked at, and its powers come
+// before its products. e.g. (3)*4+7^2 -> 3*4+7^2 -> 3*4+7*7
+void freeGroups(int group) {
+    const int depth = ws.MaxDepth;
+    RemoveParentheses();
+    CommitStep();
+    if (ws.MaxDepth < depth && group <= ws.GroupTable[ws.MaxDepth].lastGroup) ExpandIfPowers(group);
+}
+
 void reducePass(int group, bool silent, bool stopFlag) {
-    if (!tokensHold('|') && ws.MaxDepth >= 1) {
-        RemoveParentheses();
-        CommitStep();
-    }
+    if (!tokensHold('|') && ws.MaxDepth >= 1) freeGroups(group);
     if (!tokensHold('~') && ws.GroupProduct[ws.MaxDepth][group]) OrderPolynomial(group);
     if (group > ws.GroupTable[ws.MaxDepth].lastGroup) return;
     if (ws.ProblemType == calculatingRoots) {
@@ -141,7 +147,6 @@ void ReduceAllGroups() {
 namespace {
 
 const std::string rootNote = "Simplfy the square roots by removing any perfect squares from under the radical.";
-const std::string reorderNote = "Reorder the polynomial.";
 
 // "Any constant ..." when the first exponent of the text is greater than 1.
 std::string powerNote(const std::string& text) {

@@ -57,6 +57,12 @@ TEST(TextOfDouble, FaultsForWhatIsNoNumber) {
     EXPECT_EQ(faultOf([] { (void)textOf(std::nan("")); }), 6);
 }
 
+TEST(TextOfSingle, IsAPlainDecimalAsLongAsASingleKeepsItsDigits) {
+    EXPECT_EQ(textOf(-5.12e-16F), "-0.000000000000000512");
+    EXPECT_EQ(textOf(1.25e-37F), "0." + std::string(36, '0') + "125");
+    EXPECT_EQ(textOf(1e-40F), "0");
+}
+
 TEST(TextOfSingle, HasSevenDigitsAndThenTheEForm) {
     EXPECT_EQ(textOf(1.0F / 3.0F), "0.3333333");
     EXPECT_EQ(textOf(0.1F), "0.1") << "and not the digits of the double nearest to it";

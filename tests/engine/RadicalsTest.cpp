@@ -76,17 +76,6 @@ TEST(PowersOfNumbers, AreNotThoseOfLetters) {
     }
 }
 
-TEST(PowersOfNumbers, BringTheFactorInUnlessSomethingElseActsOnTheGroup) {
-    startText(102, "2(3^2+x)");
-    EXPECT_TRUE(ExpandIfPowers(0));
-    EXPECT_EQ(recorded().last(), "18+2x");
-    for (const char* text : {"2(3^2+x)^2", "2(3^2+x)(x+1)"}) {
-        startText(102, text);
-        EXPECT_TRUE(ExpandIfPowers(0));
-        EXPECT_EQ(recorded().last().substr(0, 6), "2(9+x)") << text;
-    }
-}
-
 TEST(AbsoluteValue, DropsTheSignAndSaysWhy) {
     struct Bars {
         const char* text;

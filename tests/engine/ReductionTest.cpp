@@ -71,13 +71,6 @@ TEST(TermRules, ExplainDecimals) {
     for (const Rule& rule : rules) expectSecondStep(rule, decimals(rule.topic, rule.text));
 }
 
-TEST(TermRules, SeeTwoNumbersInAPowerAndANumber) {
-    startText(150, "2^3+1");
-    ReduceExpression(0, false, true);
-    EXPECT_EQ(recorded().lines, (Lines{"2^3^+1", "9"}));
-    EXPECT_EQ(recorded().notes[1], "Add 1 and 8 to form the new term (9).");
-}
-
 TEST(TermRules, MakeNoMoreThanSixteenBins) {
     startText(103, "x");
     std::string terms;
