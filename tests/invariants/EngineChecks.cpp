@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <iterator>
+#include <numeric>
 #include <optional>
 #include <set>
 
@@ -159,21 +160,44 @@ bool dividesByZero(const Solution& solution) {
     return value && !value->isDefined();
 }
 
-// Whether the solution had come to numbers whose product may pass 32 bits, where fractions are
-// documented to overflow.
-bool reachesLargeNumbers(const Solution& solution) {
-    constexpr long root = 46340;
-    if (solution.last().find('E') != std::string::npos) return true;
-    std::string digits;
-    for (const char c : solution.last() + " ") {
-        if (isDigit(c)) {
-            digits += c;
-            continue;
-        }
-        if (digits.size() > 9 || std::atol(digits.c_str()) >= root) return true;
-        digits.clear();
+// The numbers of a text, without signs. e.g. "-#2x^3^/.5#" -> 2, 3, 0.5
+struct FoundNumber {
+    long double value;
+    std::size_t begin;
+    std::size_t end;
+};
+std::vector<FoundNumber> numbersOf(const std::string& text) {
+    std::vector<FoundNumber> found;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool begins = isDigit(text[at]) || (text[at] == '.' && at + 1 < text.size() && isDigit(text[at + 1]));
+        if (!begins) continue;
+        char* end = nullptr;
+        const long double value = std::strtold(text.c_str() + at, &end);
+        const auto behind = static_cast<std::size_t>(end - text.c_str());
+        found.push_back({value, at, behind});
+        at = behind - 1;
     }
-    return false;
+    return found;
+}
+
+// Whether the fractions that the solution had come to need more than 32 bits over their common
+// denominator, which is documented to overflow.
+bool reachesLargeNumbers(const Solution& solution) {
+    constexpr long double limit = 2147483648.0L;
+    const std::string& line = solution.last();
+    if (line.find('E') != std::string::npos) return true;
+    const auto numbers = numbersOf(line);
+    const auto isBelow = [&](const FoundNumber& number) { return number.begin > 0 && line[number.begin - 1] == '/'; };
+    long double common = 1;
+    for (const auto& number : numbers) {
+        if (number.value >= limit) return true;
+        const bool below = isBelow(number) && number.value >= 1;
+        if (below) common *= number.value / std::gcd(std::llround(common), std::llround(number.value));
+        if (common >= limit) return true;
+    }
+    long double total = 0;
+    for (const auto& number : numbers) total += isBelow(number) ? 0 : number.value * common;
+    return total >= limit;
 }
 
 // A line by itself is the solution of a number or a fraction that was typed alone.
@@ -205,6 +229,7 @@ template <Check lines, Check last>
 Complaints ofLines(const Problem& problem, const Solution& solution) {
     Complaints found = commonComplaints(problem, solution);
     if (found.empty()) append(found, lines(solution));
+    append(found, noteComplaints(solution));
     if (found.empty()) append(found, last(solution));
     return found;
 }
@@ -223,7 +248,7 @@ constexpr TopicChecks topicChecks[] = {
     {"Calculating Roots", ofSum<simplestRootComplaints>},
     {"Exponential Notation", ofSum<primePowerComplaints>},
     {"Simplifying Polynomials", ofSum<simplestPolynomialComplaints>},
-    {"Negative Exponents", ofSum<nothingMore>},
+    {"Negative Exponents", ofSum<orderedComplaints>},
     {"Solving Equations", ofLines<equationComplaints, solvedEquationComplaints>},
     {"Arithmetic Principles", ofLines<equationComplaints, solvedEquationComplaints>},
     {"Graphing A Linear Equation", ofLines<equationComplaints, nothingMore>},
@@ -237,6 +262,44 @@ const TopicChecks* rowOf(const std::string& topic) {
 }
 
 }  // namespace
+
+namespace {
+
+// What a note says of its own accord: numbers from here to the end of the sentence are in no line.
+//   the common factor and how it is divided out     Reduce #4/6# by dividing ... by 2. ( #4/6# = #2*2/2*3# )
+//   the square under a root                         In this problem (12=4*3) there is a perfect square ...
+//   the common denominator                          ... that will produce the common denominator (6) ...
+//   the example of a power                          ... should be expanded out by multiplying. Ex( 3^2^ = 9 )
+//   how many places are kept                        Round to 4 decimal places.
+constexpr std::string_view introduced[] = {"dividing the numerator and denominator by ", "In this problem (",
+                                           "produce the common denominator (", "Ex( 3^2^ = 9", "Round to "};
+
+// A note names a number as a single holds it, a line may have more digits.
+bool shows(const std::string& line, long double value) {
+    const long double allowed = value >= 1e7L ? value * singlePrecision : 0;
+    const auto numbers = numbersOf(line);
+    return std::any_of(numbers.begin(), numbers.end(),
+                       [&](const FoundNumber& one) { return std::fabs(one.value - value) <= allowed; });
+}
+
+}  // namespace
+
+Complaints noteComplaints(const Solution& solution) {
+    for (std::size_t i = 1; i < solution.steps.size(); ++i) {
+        const Step& step = solution.steps[i];
+        std::string note = step.note;
+        for (const auto start : introduced) note = note.substr(0, note.find(start));
+        for (const auto& number : numbersOf(note)) {
+            // A coefficient, an exponent and a denominator of 1 are not written, nor is a term that cancelled.
+            const bool unwritten = number.value == 0 || number.value == 1;
+            if (unwritten || shows(step.line, number.value) || shows(solution.steps[i - 1].line, number.value))
+                continue;
+            return {{"a note names a number that no line shows",
+                     beside(solution.steps[i - 1].line, step.line) + "   " + step.note}};
+        }
+    }
+    return {};
+}
 
 Complaints valueComplaints(const Solution& solution, long double tolerance) {
     for (std::size_t i = 1; i < solution.steps.size(); ++i) {
@@ -315,6 +378,28 @@ Complaints primePowerComplaints(const Solution& solution) {
     return {};
 }
 
+namespace {
+
+// The exponent by which a term is placed; what has no letter above the bar, or a negative exponent,
+// goes behind. e.g. 2 of "+#3x^2^/4#", 0 of "-#5/x#"
+long degreeOf(const std::string& term) {
+    const std::string above = term.substr(0, term.find('/'));
+    const std::size_t letter = above.find_first_of("abcdefghijklmnopqrstuvwxyz");
+    if (letter == std::string::npos) return 0;
+    const bool raised = letter + 1 < above.size() && above[letter + 1] == '^';
+    return raised ? std::max(0L, std::atol(above.c_str() + letter + 2)) : 1;
+}
+
+}  // namespace
+
+Complaints orderedComplaints(const Solution& solution) {
+    const auto terms = termsOf(solution.last());
+    const bool ordered = std::is_sorted(terms.begin(), terms.end(),
+                                        [](const auto& a, const auto& b) { return degreeOf(a) > degreeOf(b); });
+    if (ordered) return {};
+    return {{"the terms of the last line do not stand in decreasing order", solution.last()}};
+}
+
 Complaints simplestPolynomialComplaints(const Solution& solution) {
     const std::string& line = solution.last();
     if (line.find_first_of("()*[]|") != std::string::npos) return {{"the last line is not expanded", line}};
@@ -328,7 +413,7 @@ Complaints simplestPolynomialComplaints(const Solution& solution) {
         if (drawn(monomial, first) != term) return {{"a term of the last line is not in simplest form", line}};
         first = false;
     }
-    return {};
+    return orderedComplaints(solution);
 }
 
 Complaints solvedEquationComplaints(const Solution& solution) {
@@ -353,7 +438,16 @@ Complaints sumComplaints(const Problem& problem, const Solution& solution, Check
     Complaints found = commonComplaints(problem, solution);
     if (!solution.messages.empty() || solution.steps.empty()) return found;
     append(found, valueComplaints(solution, tolerance));
+    append(found, noteComplaints(solution));
     if (!isRestated(solution)) append(found, simplest(solution));
+    return found;
+}
+
+Complaints decimalsComplaints(const Problem& problem, const Solution& solution) {
+    const bool stopped = solution.messages == std::vector<std::string>{"Division by 0!"} ||
+                         solution.messages == std::vector<std::string>{"Overflow!"};
+    Complaints found = stopped ? Complaints() : commonComplaints(problem, solution);
+    append(found, noteComplaints(solution));
     return found;
 }
 

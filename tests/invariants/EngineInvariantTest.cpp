@@ -23,11 +23,15 @@ TEST_P(EngineInvariant, EveryLineFollowsAndTheLastIsSimplest) {
     Survey book;
     Draws draws(seedOfRun());
     for (int i = 0; i < rounds(GetParam().count); ++i) {
-        const Problem problem = GetParam().generate(draws);
+        Problem problem = GetParam().generate(draws);
         const Solution solution = solve(problem);
         book.add(problem, solution, engineComplaints(problem, solution));
+        if (i % 4 != 0) continue;
+        problem.settings = {{"use_fraction", "0"}};
+        const Solution inDecimals = solve(problem);
+        book.add(problem, inDecimals, decimalsComplaints(problem, inDecimals));
     }
-    book.report("School problems in fractions mode");
+    book.report("School problems in fractions mode, every fourth in decimals as well");
 }
 
 // Named by the topic that they draw.
