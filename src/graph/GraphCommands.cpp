@@ -5,6 +5,9 @@
 #include "GraphTrace.hpp"
 #include "NumberText.hpp"
 #include "Platform.hpp"
+#include "StepDisplay.hpp"
+#include "Workspace.hpp"
+#include "basBreakdownFunc.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -73,13 +76,30 @@ void chooseColor(std::string& setting) {
     drawGraph(frmGraph);
 }
 
+// The problem and, where it was solved, the last line of its solution.
+std::vector<std::string> problemAndAnswer() {
+    std::vector<std::string> lines{ws.StepLines[1].empty() ? ImplodeCanon() : ws.StepLines[1]};
+    const std::string& solved = ws.StepLines[std::max(lastShownStep(), 0)];
+    if (!solved.empty() && solved != lines.front()) lines.push_back(solved);
+    return lines;
+}
+
+// A later problem leaves its values in the workspace while this window is still looked at.
+GraphSubject subjectOnDesk() {
+    return {ws.GraphKind,      ws.GraphX1, ws.GraphY1, ws.GraphX2, ws.GraphY2, frmPaper.Paper[0].Label6.Text,
+            problemAndAnswer()};
+}
+
 }  // namespace
 
 void frmGraph_Load() {
+    const bool askedFor = frmGraph.AskedFor;
     const double screenWidth = frmGraph.ScreenWidth;
     const double screenHeight = frmGraph.ScreenHeight;
     frmGraph = GraphWindow{};
     frmGraph.Loaded = true;
+    frmGraph.AskedFor = askedFor;
+    frmGraph.subject = subjectOnDesk();
     frmGraph.ScreenWidth = screenWidth;
     frmGraph.ScreenHeight = screenHeight;
     frmGraph.Width = normalSide;
@@ -101,13 +121,14 @@ void frmGraph_Resize() {
 
 void frmGraph_MouseMove(double x, double y) {
     // To the hundredth of a close view; a pixel of a wide one covers more than that.
-    const double perPixel = (frmGraph.xMax - frmGraph.xMin) / frmGraph.Width;
+    const DrawingArea square = squareOf(frmGraph);
+    const double perPixel = (frmGraph.xMax - frmGraph.xMin) / square.width;
     const int decimals = perPixel < 1 ? 2 : 0;
     const auto within = [](double place, double size, double from, double to) {
         return from + std::clamp((place - 1) / (size - 2), 0.0, 1.0) * (to - from);
     };
-    const double atX = within(x, frmGraph.Width, frmGraph.xMin, frmGraph.xMax);
-    const double atY = within(y, frmGraph.Height, frmGraph.yMax, frmGraph.yMin);
+    const double atX = within(x - square.x, square.width, frmGraph.xMin, frmGraph.xMax);
+    const double atY = within(y - square.y, square.height, frmGraph.yMax, frmGraph.yMin);
     frmGraph.StatusText = coordinateLine(Round(atX, decimals), Round(atY, decimals));
 }
 

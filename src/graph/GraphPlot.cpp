@@ -2,7 +2,6 @@
 
 #include "GraphTrace.hpp"
 #include "NumberText.hpp"
-#include "Workspace.hpp"
 
 #include <algorithm>
 #include <array>
@@ -17,7 +16,11 @@ constexpr double smallestRadius = 2;  // pixels: a point stays in sight however 
 
 constexpr double gap = 6;  // around what stands in the strip
 constexpr double listWidth = 132;
+constexpr double buttonWidth = 84;  // where no list makes the strip wider
 constexpr double buttonHeight = 26;
+
+constexpr double tickLength = 3;      // pixels to each side of the axis
+constexpr double labelDistance = 14;  // between two numbers along an axis
 
 struct StepRow {
     double from;  // xMax
@@ -51,17 +54,18 @@ void put(Control& control, double left, double top, double width, double height)
 void layStrip(GraphWindow& window) {
     const bool buttons = window.Command1.Visible;
     const bool list = window.List1.Visible;
-    window.StripWidth = buttons || list ? listWidth + 2 * gap : 0;
+    const double width = list ? listWidth : buttonWidth;
+    window.StripWidth = buttons || list ? width + 2 * gap : 0;
     const double left = window.Width + gap;
     const double below = buttons ? window.Height - 2 * (buttonHeight + gap) : window.Height;
     put(window.List1, left, gap, listWidth, below - 2 * gap);
-    put(window.Command1, left, below, listWidth, buttonHeight);
-    put(window.Command2, left, below + buttonHeight + gap, listWidth, buttonHeight);
+    put(window.Command1, left, below, width, buttonHeight);
+    put(window.Command2, left, below + buttonHeight + gap, width, buttonHeight);
 }
 
 // So many pixels across, in coordinates of the graph.
 double pixels(const GraphWindow& window, double count) {
-    return count * (window.xMax - window.xMin) / (window.Width - 2);
+    return count * (window.xMax - window.xMin) / (squareOf(window).width - 2);
 }
 
 void drawGrid(GraphWindow& window) {
@@ -79,6 +83,43 @@ void writeAt(GraphWindow& window, double x, double y, const std::string& text) {
     window.print(text);
 }
 
+// The least of 1, 2, 5, 10, 20, ... that leaves the numbers apart.
+double labelStep(const GraphWindow& window) {
+    const double least = window.TextWidth(textOf(window.xMin)) + pixels(window, labelDistance);
+    for (double power = 1;; power *= 10) {
+        for (const double step : {power, 2 * power, 5 * power}) {
+            if (step >= least) return step;
+        }
+    }
+}
+
+// A number below its place on the axis of x, with the axis marked there.
+void labelX(GraphWindow& window, double x) {
+    const double tick = pixels(window, tickLength);
+    const std::string text = textOf(x);
+    window.line(x, -tick, x, tick);
+    writeAt(window, x - window.TextWidth(text) / 2, -tick, text);
+}
+
+// The same to the right of the axis of y, with the middle of its digits at its place.
+void labelY(GraphWindow& window, double y) {
+    const double tick = pixels(window, tickLength);
+    window.line(-tick, y, tick, y);
+    writeAt(window, 2 * tick, y + window.TextHeight() / 2, textOf(y));
+}
+
+// Between the ends, as far as there is room beside their numbers.
+void labelAxes(GraphWindow& window) {
+    const double step = labelStep(window);
+    const double end = 0.98 * window.xMax - 1.5 * window.TextWidth(textOf(window.xMin)) - pixels(window, tickLength);
+    for (double place = step; place <= end; place += step) {
+        for (const double at : {place, -place}) {
+            labelX(window, at);
+            labelY(window, at);
+        }
+    }
+}
+
 void drawAxes(GraphWindow& window) {
     window.ForeColor = black;
     window.line(window.xMin, 0, window.xMax, 0);
@@ -90,6 +131,7 @@ void drawAxes(GraphWindow& window) {
     writeAt(window, beside, window.yMax, textOf(window.yMax));
     writeAt(window, beside, window.yMin + window.TextHeight(), textOf(window.yMin));
     writeAt(window, window.xMax - window.TextWidth(rightmost) - 0.02 * window.xMax, 0, rightmost);
+    labelAxes(window);
 }
 
 // Each numeral in the middle of its quadrant.
@@ -118,9 +160,10 @@ void drawSegment(GraphWindow& window, const Segment& segment) {
 }
 
 void drawLineOfPoints(GraphWindow& window) {
-    drawPoint(window, ws.GraphX1, ws.GraphY1);
-    drawPoint(window, ws.GraphX2, ws.GraphY2);
-    const auto part = seenPart({ws.GraphX1, ws.GraphY1, ws.GraphX2, ws.GraphY2}, window);
+    const GraphSubject& points = window.subject;
+    drawPoint(window, points.x1, points.y1);
+    drawPoint(window, points.x2, points.y2);
+    const auto part = seenPart({points.x1, points.y1, points.x2, points.y2}, window);
     if (part) drawSegment(window, *part);
     // Nothing is traced, so there is no quality to choose.
     window.mnuGraphHighQuality.Enabled = false;
@@ -135,10 +178,17 @@ void drawEquation(GraphWindow& window) {
 
 }  // namespace
 
+DrawingArea squareOf(const GraphWindow& window) {
+    const double side = std::min(window.Width, window.Height);
+    return {(window.Width - side) / 2, (window.Height - side) / 2, side, side};
+}
+
 void sizeGraph(GraphWindow& window) {
     layStrip(window);
     // A pixel is left free on each side, so that the outermost lines of the grid are whole.
-    window.Scale(window.xMin, window.yMax, window.xMax, window.yMin, {1, 1, window.Width - 2, window.Height - 2});
+    const DrawingArea square = squareOf(window);
+    window.Scale(window.xMin, window.yMax, window.xMax, window.yMin,
+                 {square.x + 1, square.y + 1, square.width - 2, square.height - 2});
     window.plotStep = stepFor(window.xMax);
 }
 
@@ -153,9 +203,9 @@ void drawGraph(GraphWindow& window) {
 
     window.ForeColor = colourOfNumber(graphSettings.GraphLineColor);
     window.List1.List.clear();
-    if (ws.GraphKind == 1) {
-        drawPoint(window, ws.GraphX1, ws.GraphY1);
-    } else if (ws.GraphKind == 2) {
+    if (window.subject.kind == 1) {
+        drawPoint(window, window.subject.x1, window.subject.y1);
+    } else if (window.subject.kind == 2) {
         drawLineOfPoints(window);
     } else {
         drawEquation(window);

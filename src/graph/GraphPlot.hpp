@@ -11,6 +11,9 @@ namespace ordwise {
 // it grows with the window, so that a wide view takes no more points than a close-up.
 void sizeGraph(GraphWindow& window);
 
+// The plot within the picture: the largest square in its middle.
+[[nodiscard]] DrawingArea squareOf(const GraphWindow& window);
+
 // Draws the whole picture and fills the list of coordinates.
 void drawGraph(GraphWindow& window);
 

@@ -1,7 +1,6 @@
 #include "GraphWords.hpp"
 
 #include "NumberText.hpp"
-#include "Workspace.hpp"
 
 #include <cmath>
 
@@ -65,9 +64,10 @@ std::string equationWords(const GraphEquation& equation) {
 }
 
 std::string graphTitle(const GraphWindow& window) {
-    const std::string first = pointWords(ws.GraphX1, ws.GraphY1);
-    if (ws.GraphKind == 1) return first;
-    if (ws.GraphKind == 2) return first + " to " + pointWords(ws.GraphX2, ws.GraphY2);
+    const GraphSubject& subject = window.subject;
+    const std::string first = pointWords(subject.x1, subject.y1);
+    if (subject.kind == 1) return first;
+    if (subject.kind == 2) return first + " to " + pointWords(subject.x2, subject.y2);
     return window.equationTerms ? equationWords(*window.equationTerms) : "";
 }
 
@@ -75,8 +75,8 @@ std::string graphDescription(const GraphWindow& window) {
     const std::string title = graphTitle(window);
     const std::string bounds = " on axes from " + textOf(window.xMin) + " to " + textOf(window.xMax) + ".";
     if (title.empty()) return "No graph" + bounds;
-    if (ws.GraphKind == 1) return "The point " + title + bounds;
-    if (ws.GraphKind == 2) return "The line from " + title + bounds;
+    if (window.subject.kind == 1) return "The point " + title + bounds;
+    if (window.subject.kind == 2) return "The line from " + title + bounds;
     return "The graph of " + title + bounds;
 }
 

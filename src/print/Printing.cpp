@@ -7,7 +7,6 @@
 #include "PrintingPages.hpp"
 #include "StepDisplay.hpp"
 #include "Workspace.hpp"
-#include "basBreakdownFunc.hpp"
 
 #include <algorithm>
 #include <array>
@@ -68,19 +67,19 @@ void layOutSolution(PageSurface& page, bool withExplanations) {
     }
 }
 
-// The problem and, where it was solved, the last line of its solution.
-void printProblem(PageSurface& page) {
-    const std::string problem = ws.StepLines[1].empty() ? ImplodeCanon() : ws.StepLines[1];
-    PrintLine(problem, page, false);
-    const std::string& solved = ws.StepLines[std::max(lastShownStep(), 0)];
-    if (!solved.empty() && solved != problem) PrintLine(solved, page, false);
+// The graph may be one of a problem that is gone from the desk.
+Heading graphHeading() {
+    Heading lines = heading();
+    if (lines[1] == firstHeading()[1]) lines[1] = frmGraph.subject.topic;
+    return lines;
 }
 
 // The window's picture drawn anew at the size of the page, so that it is as sharp as the paper.
 void layOutGraph(PageSurface& page, const PaperSize& paper) {
     constexpr double belowProblem = 6;  // a denominator reaches down
-    printOwnHeading(page);
-    printProblem(page);
+    printHeading(page, graphHeading());
+    page.printLine("");
+    for (const std::string& line : frmGraph.subject.lines) PrintLine(line, page, false);
     page.printLine("");
     page.CurrentY += belowProblem;
     const double width = paper.width - 2 * paper.margin;
@@ -154,7 +153,8 @@ bool printSolution(bool withExplanations) {
 
 bool PrintTheGraph() {
     if (!frmGraph.Loaded) return false;
-    return printPages(heading()[1] + " Graph", [](PageSurface& page) { layOutGraph(page, platform.printer->paper()); });
+    return printPages(graphHeading()[1] + " Graph",
+                      [](PageSurface& page) { layOutGraph(page, platform.printer->paper()); });
 }
 
 }  // namespace ordwise

@@ -188,6 +188,14 @@ void DeskView::growToSheets() {
     }
 }
 
+int DeskView::sheetsEnd() const {
+    int end = 0;
+    for (const SheetView* sheet : sheets_) {
+        if (sheet->isVisible()) end = std::max(end, sheet->mapToGlobal(sheet->rect().topRight()).x());
+    }
+    return end;
+}
+
 void DeskView::showPictures() {
     const auto shown = [](Control control) {
         control.Visible = control.Visible && frmPaper.Loaded;

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] double scale() const { return scale_; }
 
     [[nodiscard]] SheetView& sheet(int number) const { return *sheets_[static_cast<std::size_t>(number)]; }
+    // How far to the right the sheets reach on the screen.
+    [[nodiscard]] int sheetsEnd() const;
     [[nodiscard]] PictureButton& light() const { return *light_; }
     [[nodiscard]] PictureButton& assistant() const { return *wizard_; }
     [[nodiscard]] ExplanationPopup& explanation() const { return *explanation_; }

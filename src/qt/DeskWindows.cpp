@@ -5,6 +5,7 @@
 #include "DeskView.hpp"
 #include "FrameWindow.hpp"
 #include "GraphView.hpp"
+#include "GraphWindow.hpp"
 #include "HelpDialog.hpp"
 #include "OptionsDialog.hpp"
 #include "PracticeTestDialog.hpp"
@@ -25,9 +26,9 @@ namespace {
 
 // A dialog may be opened from another one, which then stands behind it.
 template <class Dialog>
-QWidget* makeDialog(QWidget* frame, Stage& stage) {
+QWidget* makeDialog(FrameWindow& frame, Stage& stage) {
     QWidget* const inFront = QApplication::activeModalWidget();
-    return new Dialog(inFront == nullptr ? frame : inFront, stage);
+    return new Dialog(inFront == nullptr ? &frame : inFront, stage);
 }
 
 }  // namespace
@@ -35,19 +36,19 @@ QWidget* makeDialog(QWidget* frame, Stage& stage) {
 struct DeskWindows::Row {
     std::string_view name;
     bool modal;
-    QWidget* (*make)(QWidget* frame, Stage& stage);
+    QWidget* (*make)(FrameWindow& frame, Stage& stage);
 };
 
 const DeskWindows::Row DeskWindows::rows[] = {
-    {"frmSelect", true, [](QWidget* frame, Stage&) -> QWidget* { return new ChooserDialog(frame); }},
+    {"frmSelect", true, [](FrameWindow& frame, Stage&) -> QWidget* { return new ChooserDialog(&frame); }},
     {"frmOptions", true, makeDialog<OptionsDialog>},
     {"frmPrintSetup", true, makeDialog<PrintSetupDialog>},
     {"frmPrintPreview", true, makeDialog<PrintPreviewDialog>},
     {"frmPracticeTest", true, makeDialog<PracticeTestDialog>},
-    {"frmGraph", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new GraphView(frame, stage); }},
+    {"frmGraph", false, [](FrameWindow& frame, Stage& stage) -> QWidget* { return new GraphView(frame, stage); }},
     {"frmAbout", true, makeDialog<AboutDialog>},
-    {"frmHelp", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new HelpDialog(frame, stage); }},
-    {"frmLogo", false, [](QWidget* frame, Stage& stage) -> QWidget* { return new SplashCard(frame, stage); }},
+    {"frmHelp", false, [](FrameWindow& frame, Stage& stage) -> QWidget* { return new HelpDialog(&frame, stage); }},
+    {"frmLogo", false, [](FrameWindow& frame, Stage& stage) -> QWidget* { return new SplashCard(&frame, stage); }},
 };
 
 void DeskWindows::show(std::string_view name) {
@@ -65,7 +66,7 @@ void DeskWindows::show(std::string_view name) {
 
 void DeskWindows::runModal(const Row& row) {
     stage_.show();
-    const QPointer<QWidget> widget = row.make(&frame_, stage_);
+    const QPointer<QWidget> widget = row.make(frame_, stage_);
     open_[std::string(row.name)] = widget;
     auto* dialog = qobject_cast<QDialog*>(widget);
     Q_ASSERT(dialog != nullptr);
@@ -77,11 +78,19 @@ void DeskWindows::runModal(const Row& row) {
 
 void DeskWindows::showBeside(const Row& row) {
     QPointer<QWidget>& widget = open_[std::string(row.name)];
-    if (widget.isNull()) widget = row.make(&frame_, stage_);
+    if (widget.isNull()) widget = row.make(frame_, stage_);
     widget->setWindowState(widget->windowState() & ~Qt::WindowMinimized);
+    // A graph that a solve opens leaves the keyboard to the paper.
+    const bool takesKeys = row.name != "frmGraph" || frmGraph.AskedFor;
+    const bool atFrame = frame_.isActiveWindow();
+    widget->setAttribute(Qt::WA_ShowWithoutActivating, !takesKeys);
     widget->show();
     widget->raise();
-    widget->activateWindow();
+    if (takesKeys) {
+        widget->activateWindow();
+    } else if (atFrame) {
+        frame_.activateWindow();  // a window manager may have thought otherwise
+    }
 }
 
 // A modal widget only hides: whoever runs it still holds it.

@@ -1,11 +1,15 @@
 #include "GraphView.hpp"
 
 #include "Art.hpp"
+#include "DeskView.hpp"
 #include "DisplayListPainter.hpp"
+#include "FrameWindow.hpp"
 #include "GraphCommands.hpp"
+#include "GraphPlace.hpp"
 #include "GraphWords.hpp"
 #include "PictureFile.hpp"
 #include "Printing.hpp"
+#include "ScreenFit.hpp"
 #include "Stage.hpp"
 #include "StatusLine.hpp"
 #include "Windows.hpp"
@@ -88,8 +92,8 @@ void GraphCanvas::paintEvent(QPaintEvent*) {
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
-GraphView::GraphView(QWidget* frame, Stage& stage)
-    : QMainWindow(frame),
+GraphView::GraphView(FrameWindow& frame, Stage& stage)
+    : QMainWindow(&frame),
       stage_(stage),
       canvas_(new GraphCanvas(this)),
       strip_(new QWidget(this)),
@@ -119,7 +123,7 @@ GraphView::GraphView(QWidget* frame, Stage& stage)
     canvas_->installEventFilter(this);
     showControls();
     canvas_->setFocus();
-    placeBeside(*frame);
+    placeBeside(frame);
 }
 
 void GraphView::addStrip() {
@@ -205,15 +209,17 @@ void GraphView::addChecked(QMenu& menu, const Control& control, void (*routine)(
     add(menu, control, routine)->setCheckable(true);
 }
 
-// To the right of the frame where there is room, otherwise at the right border of the screen, where
-// it covers the least of the sheet.
-void GraphView::placeBeside(const QWidget& frame) {
-    const QRect room = frame.screen()->availableGeometry();
-    resize(sizeHint().boundedTo(room.size()));
-    const QRect desk = frame.frameGeometry();
-    const int left = std::min(desk.right() + 1, room.right() + 1 - width());
-    const int top = std::min(desk.top(), room.bottom() + 1 - height());
-    move(std::max(left, room.left()), std::max(top, room.top()));
+void GraphView::placeBeside(const FrameWindow& frame) {
+    const auto placeOn = [](const QRect& rect) {
+        return WindowPlace{double(rect.x()), double(rect.y()), double(rect.width()), double(rect.height())};
+    };
+    const QSize around = frame.screen()->availableSize() - roomOnScreen(*this);
+    const QRect wanted(QPoint(), sizeHint() + around);
+    const int strip = strip_->isHidden() ? 0 : strip_->sizeHint().width();
+    const WindowPlace place = placeOfGraph(placeOn(frame.screen()->availableGeometry()), placeOn(frame.frameGeometry()),
+                                           frame.desk().sheetsEnd(), placeOn(wanted), strip + around.width());
+    resize(QSizeF(place.width, place.height).toSize() - around);
+    move(QPointF(place.left, place.top).toPoint());
 }
 
 QAction& GraphView::actionOf(const Control& menu) const {
@@ -321,9 +327,11 @@ void GraphView::showControls() {
 // picture takes the size of the window.
 void GraphView::fitPicture() {
     fitting_ = true;
+    strip_->layout()->activate();  // it may have become narrower
     centralWidget()->layout()->activate();
     if (!isMaximized() && !isFullScreen() && canvas_->size() != wantedSize()) {
-        resize(size() + wantedSize() - canvas_->size());
+        const QSize around = frameGeometry().size() - size();
+        resize((size() + wantedSize() - canvas_->size()).boundedTo(screen()->availableSize() - around));
         keepOnScreen();
     }
     fitting_ = false;

@@ -19,6 +19,7 @@ class QLabel;
 
 namespace ordwise {
 
+class FrameWindow;
 class Stage;
 class StatusLine;
 struct PictureSource;
@@ -56,7 +57,7 @@ private:
 class GraphView : public QMainWindow, public WindowView {
 public:
     // The window's data are loaded already.
-    GraphView(QWidget* frame, Stage& stage);
+    GraphView(FrameWindow& frame, Stage& stage);
 
     void showChanges() override;
 
@@ -84,7 +85,7 @@ private:
     QAction* add(QMenu& menu, const Control& control, std::function<void()> routine, const Keys& keys = {});
     void addChecked(QMenu& menu, const Control& control, void (*routine)());
 
-    void placeBeside(const QWidget& frame);
+    void placeBeside(const FrameWindow& frame);
     void run(const std::function<void()>& routine);
     void tell(const QString& sentence, bool complaint);
     void print();

@@ -2,6 +2,7 @@
 
 #include "AssistantLogic.hpp"
 #include "Examples.hpp"
+#include "GraphWindow.hpp"
 #include "GuidedInput.hpp"
 #include "Platform.hpp"
 #include "RecentProblems.hpp"
@@ -57,7 +58,9 @@ void mnuPrintSetup_Click() {
 }
 
 void mnuGraph_Click() {
+    frmGraph.AskedFor = true;
     platform.windows->show("frmGraph");
+    frmGraph.AskedFor = false;
 }
 
 void mnuPracticeTest_Click() {

@@ -1,8 +1,10 @@
 // frmGraph: what is drawn, listed and changed by its commands.
 #include "Drawn.hpp"
 #include "GraphCommands.hpp"
+#include "GraphPlace.hpp"
 #include "GraphPlot.hpp"
 #include "GraphWindow.hpp"
+#include "GraphWords.hpp"
 #include "PlainPlatform.hpp"
 #include "TextTools.hpp"
 #include "Workspace.hpp"
@@ -10,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace ordwise {
@@ -64,26 +67,82 @@ protected:
 
 const Colour gridBlue = colourOfNumber("16766596");
 
-TEST_F(GraphWindowTest, OpensWithAGridTwoAxesAndFiveLabels) {
+TEST_F(GraphWindowTest, OpensWithAGridTwoAxesAndNumbersAlongThem) {
     openPoint(3, 4);
     EXPECT_DOUBLE_EQ(frmGraph.Width, 8000.0 / 15);
     EXPECT_EQ(strokes(gridBlue).size(), 2U * 41) << "one line each way at every whole number";
     const std::vector<Stroke> axes = strokes(black);
-    ASSERT_EQ(axes.size(), 2U);
+    ASSERT_GE(axes.size(), 2U);
     EXPECT_NEAR(graphY(axes[0].y1), 0, 1e-9);
     EXPECT_NEAR(graphX(axes[0].x1), -20, 1e-9);
     EXPECT_NEAR(graphX(axes[0].x2), 20, 1e-9);
     EXPECT_NEAR(graphX(axes[1].x1), 0, 1e-9);
-    const std::vector<Glyphs> labels = runsOf(frmGraph.drawn());
-    ASSERT_EQ(labels.size(), 5U);
-    for (const Glyphs& label : labels) {
-        EXPECT_GE(label.x, 0) << label.text;
-        EXPECT_LE(label.x + textWidth(label.face, label.text, label.size), frmGraph.Width) << label.text;
-        EXPECT_LE(label.y + lineHeightOf(label.face, label.size), frmGraph.Height + 1) << label.text;
+}
+
+// Whatever the zoom and the size of the picture: numbers stand on it, apart from one another and each at
+// the tick of its place.
+TEST_F(GraphWindowTest, NumbersAlongTheAxesKeepApart) {
+    openPoint(3, 4);
+    const auto boxOf = [](const Glyphs& label) {
+        return std::array<double, 4>{label.x, label.y, label.x + textWidth(label.face, label.text, label.size),
+                                     label.y + lineHeightOf(label.face, label.size)};
+    };
+    for (int zoom = 0; zoom < 14; ++zoom) {
+        for (const auto& resize : {mnuGraphSmall_Click, mnuGraphNormal_Click, mnuGraphMax_Click}) {
+            resize();
+            const std::vector<Glyphs> labels = runsOf(frmGraph.drawn());
+            EXPECT_GE(labels.size(), frmGraph.Width < 300 ? 5U : 5U + 4) << frmGraph.xMax;
+            for (std::size_t i = 0; i < labels.size(); ++i) {
+                const auto one = boxOf(labels[i]);
+                EXPECT_GE(one[0], 0) << labels[i].text;
+                EXPECT_LE(one[2], frmGraph.Width) << labels[i].text;
+                EXPECT_LE(one[3], frmGraph.Height + 1) << labels[i].text;
+                for (std::size_t j = i + 1; j < labels.size(); ++j) {
+                    const auto other = boxOf(labels[j]);
+                    const bool apart =
+                        one[2] <= other[0] || other[2] <= one[0] || one[3] <= other[1] || other[3] <= one[1];
+                    EXPECT_TRUE(apart) << labels[i].text << " and " << labels[j].text << " at " << frmGraph.xMax;
+                }
+            }
+        }
+        mnuGraphZoomOut_Click();
     }
-    EXPECT_EQ(labels[0].text, "-20");
-    EXPECT_EQ(labels[1].text, "0");
-    EXPECT_EQ(labels[4].text, "20");
+}
+
+TEST_F(GraphWindowTest, SquaresStaySquareAndTheMouseKnows) {
+    openPoint(3, 4);
+    frmGraph.Width = 900;
+    frmGraph.Height = 300;
+    frmGraph_Resize();
+    const std::vector<Stroke> axes = strokes(black);
+    EXPECT_DOUBLE_EQ(axes[0].x2 - axes[0].x1, std::abs(axes[1].y2 - axes[1].y1));
+    frmGraph_MouseMove(axes[1].x1, axes[0].y1);
+    EXPECT_EQ(frmGraph.StatusText, "x=0  y=0");
+}
+
+// The problem on the desk may be another one by now.
+TEST_F(GraphWindowTest, KeepsWhatItWasOpenedFor) {
+    ws.StepLines[1] = "y=2x+3";
+    ws.StepCount = 2;
+    openPoint(3, 4);
+    ws.StepLines[1] = "x=1";
+    ws.GraphKind = 2;
+    ws.GraphX1 = 7;
+    mnuGraphZoomIn_Click();
+    EXPECT_EQ(frmGraph.List1.List, std::vector<std::string>{"x=3  y=4"});
+    EXPECT_EQ(graphTitle(frmGraph), "(3, 4)");
+    EXPECT_EQ(frmGraph.subject.lines, std::vector<std::string>{"y=2x+3"});
+}
+
+TEST_F(GraphWindowTest, OpensBesideTheFrameOrTheSheets) {
+    const WindowPlace screen{0, 0, 1366, 768};
+    const WindowPlace wanted{0, 0, 700, 620};
+    EXPECT_EQ(placeOfGraph(screen, {0, 0, 600, 700}, 500, wanted, 150), (WindowPlace{600, 0, 700, 620}));
+    // On the frame, shrunk to the room behind the sheets, as wide as high.
+    EXPECT_EQ(placeOfGraph(screen, {0, 0, 1366, 768}, 760, wanted, 150), (WindowPlace{760, 0, 606, 526}));
+    // No room worth a look: where it hides the least.
+    EXPECT_EQ(placeOfGraph(screen, {0, 200, 1366, 568}, 1100, wanted, 150), (WindowPlace{666, 148, 700, 620}));
+    EXPECT_EQ(placeOfGraph({0, 0, 512, 300}, {0, 0, 512, 300}, 400, wanted, 150), (WindowPlace{132, 0, 380, 300}));
 }
 
 TEST_F(GraphWindowTest, DrawsAPointAndListsIt) {
@@ -189,7 +248,7 @@ TEST_F(GraphWindowTest, NothingIsTracedWithoutAnEquation) {
     open("+ 0/1 = + 0/1");
     EXPECT_TRUE(curve().empty());
     EXPECT_TRUE(frmGraph.List1.List.empty());
-    EXPECT_EQ(strokes(black).size(), 2U);
+    EXPECT_FALSE(strokes(black).empty()) << "the axes";
 }
 
 TEST_F(GraphWindowTest, ZoomsInPowersOfTwoBetweenItsEnds) {
@@ -243,7 +302,7 @@ TEST_F(GraphWindowTest, TheQuadrantsAreNamedCounterClockwise) {
     EXPECT_EQ(middle("III"), std::pair(-10.0, -10.0));
     EXPECT_EQ(middle("IV"), std::pair(10.0, -10.0));
     mnuGraphQuadrant_Click();
-    EXPECT_EQ(runsOf(frmGraph.drawn()).size(), 5U);
+    for (const Glyphs& run : runsOf(frmGraph.drawn())) EXPECT_NE(run.face, Face::Courier) << run.text;
 }
 
 TEST_F(GraphWindowTest, SettingsLiveOnAndBoundsDoNot) {

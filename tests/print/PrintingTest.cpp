@@ -204,7 +204,7 @@ TEST_F(PrintingTest, TheGraphIsAJobOfItsOwn) {
         for (const double x : {stroke->x1, stroke->x2}) EXPECT_TRUE(x >= 0 && x <= 816 - 2 * 48) << x;
         for (const double y : {stroke->y1, stroke->y2}) EXPECT_TRUE(y >= 0 && y <= 1056 - 2 * 48) << y;
     }
-    EXPECT_EQ(strokes, 2U * 41 + 2 + 1) << "grid, axes and the line";
+    EXPECT_GT(strokes, 2U * 41 + 2) << "grid, axes and the line";
     EXPECT_DOUBLE_EQ(frmGraph.Width, 8000.0 / 15) << "the window stays as it is";
 }
 

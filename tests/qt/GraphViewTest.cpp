@@ -115,6 +115,8 @@ TEST_F(Graph, follows_the_solves_of_the_desk) {
 
     solve(twoPoints, "(-12,-5)-(9,14)");
     ASSERT_NE(graph(), nullptr) << "two points have nothing but their graph";
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == frame.get(); }))
+        << "the paper keeps the keyboard";
     EXPECT_EQ(rows(*graph()), QStringList({QStringLiteral("x=-12  y=-5"), QStringLiteral("x=9  y=14")}));
     EXPECT_FALSE(graph()->actionOf(frmGraph.mnuGraphHighQuality).isEnabled());
 }
@@ -157,6 +159,9 @@ TEST_F(Graph, takes_its_size_from_the_menus_and_from_the_hand) {
     EXPECT_EQ(frmGraph.Width, 533);
     const int width = view.width();
     view.actionOf(frmGraph.mnuToggleCoordinates).trigger();
+    QTest::qWait(1);
+    EXPECT_LT(view.width(), width - 40) << "without its list the window is smaller";
+    EXPECT_EQ(view.canvas().size(), QSize(533, 533));
     view.actionOf(frmGraph.mnuToggleZoomButtons).trigger();
     EXPECT_LT(view.width(), width - 100) << "without list and buttons the strip is gone";
     EXPECT_EQ(view.canvas().size(), QSize(533, 533)) << "and the picture stays as it is";
