@@ -40,7 +40,6 @@ installed() {
         lintian) have lintian ;;
         xvfb) have Xvfb ;;
         xdotool) have xdotool ;;
-        file) have file ;;
         man-db) have man ;;
         dpkg-dev) have dpkg-shlibdeps ;;
         fonts-texgyre) present /usr/share/texmf/fonts/opentype/public/tex-gyre/texgyreschola-regular.otf ;;
@@ -51,8 +50,9 @@ installed() {
 # shellcheck disable=SC2034  # read by the scripts that source this one
 readonly build_packages=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev libboost-dev)
 readonly desk_packages=(qt6-base-dev qt6-svg-dev fonts-texgyre)
+readonly test_packages=(desktop-file-utils appstream shared-mime-info xvfb xdotool man-db)
 # shellcheck disable=SC2034
-readonly check_packages=(clang clang-format desktop-file-utils appstream shared-mime-info lintian xvfb xdotool file man-db dpkg-dev)
+readonly check_packages=(clang clang-format lintian dpkg-dev)
 
 # Prints those of the named packages that are not there.
 missing() {
@@ -110,16 +110,25 @@ need_packages() {
     exit $status_missing
 }
 
-# What only the desk program needs: without it everything else still builds. Returns 1 without it.
-want_desk_packages() {
-    local list
-    read -ra list <<<"$(missing "${desk_packages[@]}")"
+# want_packages WHO WITHOUT PACKAGE...: what only a part needs. Returns 1 without it, and says so.
+want_packages() {
+    local who=$1 without=$2 list
+    shift 2
+    read -ra list <<<"$(missing "$@")"
     [ ${#list[@]} -eq 0 ] && return 0
-    say "The desk program needs packages that are not installed: ${list[*]}"
+    say "$who packages that are not installed: ${list[*]}"
     install "${list[@]}" && return 0
-    say "Without them the desk program is left out. To have it, on Debian:"
+    say "Without them $without. To have it, on Debian:"
     say "    sudo apt-get install ${list[*]}"
     return 1
+}
+
+# Without these everything but the desk program still builds.
+want_desk_packages() { want_packages "The desk program needs" "the desk program is left out" "${desk_packages[@]}"; }
+
+# Without these all tests but those of the installation still run whole.
+want_test_packages() {
+    want_packages "The tests of the installation need" "a part of these tests is left out" "${test_packages[@]}"
 }
 
 # up_to_date STAMP LACKING: nothing that a build reads has changed since the build that left this

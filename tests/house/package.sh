@@ -76,7 +76,8 @@ desktop_files() {
     fi
     for size in 16x16 22x22 24x24 32x32 48x48 64x64 96x96 128x128 256x256 512x512; do
         for icon in apps/ordwise mimetypes/application-x-ordwise-problem; do
-            [ "$(file -b "$share/icons/hicolor/$size/$icon.png" | grep -oE '[0-9]+ x [0-9]+' | tr -d ' ')" = $size ] ||
+            # A picture of this kind tells its width and height from the 17th byte on.
+            [ "$(od -An -j16 -N8 --endian=big -tu4 "$share/icons/hicolor/$size/$icon.png" | xargs printf '%sx%s')" = $size ] ||
                 fault "The icon $icon has no size $size."
         done
     done
