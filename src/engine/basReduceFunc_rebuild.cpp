@@ -38,14 +38,6 @@ int degreeOf(const ExprTerm& term) {
     return std::max(0, static_cast<int>(term.varExp[2]));
 }
 
-bool isOrdered(int group) {
-    const int depth = ws.MaxDepth;
-    for (int t = 2; t <= ws.TermLast[depth][group]; ++t) {
-        if (degreeOf(termOf(depth, group, t - 1)) < degreeOf(termOf(depth, group, t))) return false;
-    }
-    return true;
-}
-
 // A text as far as order goes: without marks, exponents 1 and coefficients 1.
 // e.g. "+1x[-2]" -> "+x-2"
 std::string bare(const std::string& text) {
@@ -63,7 +55,6 @@ std::string bare(const std::string& text) {
 // the ordered text if it is due, "" if it is not.
 std::string orderToTell(const TermPass& pass) {
     if (pass.variable.empty() || ws.MaxDepth != 0 || ws.LeadingTermHintShown[ws.MaxDepth]) return "";
-    if (isOrdered(pass.group)) return "";
     std::string ordered = OrderedPolynomialText(pass.group);
     if (!contains(ordered, pass.variable) || contains(ordered, "*")) return "";
     return bare(ordered) > bare(pass.textBefore) ? ordered : "";
