@@ -177,38 +177,61 @@ namespace {
 constexpr double axisY = 150;
 constexpr double labelY = 158;
 
-void drawAxis(Sheet& sheet) {
-    sheet.line(150, axisY, 550, axisY);
-    sheet.line(150, axisY, 155, 155);
-    sheet.line(150, axisY, 155, 145);
-    sheet.line(550, axisY, 545, 145);
-    sheet.line(550, axisY, 545, 155);
-}
+// The number line of a sheet, moved to the right where the typed problem reaches that far.
+class NumberLine {
+public:
+    explicit NumberLine(Sheet& sheet) : sheet_(sheet), right_(std::max(0.0, ws.LineEndX + clearOfProblem - axisLeft)) {}
 
-void drawTick(Sheet& sheet, double x) {
-    sheet.line(x, 145, x, 155);
-}
+    void drawAxis() {
+        line(axisLeft, axisY, axisRight, axisY);
+        line(axisLeft, axisY, axisLeft + 5, axisY + 5);
+        line(axisLeft, axisY, axisLeft + 5, axisY - 5);
+        line(axisRight, axisY, axisRight - 5, axisY - 5);
+        line(axisRight, axisY, axisRight - 5, axisY + 5);
+        drawTick(350);
+        print("0", 345, labelY);
+    }
 
-void drawTickLabel(Sheet& sheet, double x, double value) {
-    const std::string label = textOf(value);
-    sheet.CurrentX = x + 8 - 7 * static_cast<double>(label.size());
-    sheet.CurrentY = labelY;
-    sheet.print(label);
-}
+    // Two numbers on the same side of zero share it, long ones in two rows; the other side has its two
+    // ticks without numbers.
+    void drawOnOneSide(double low, double high) {
+        constexpr double apart = 8;
+        constexpr double secondRow = labelY + 22;
+        for (const double x : {217.0, 284.0, 417.0, 484.0}) drawTick(x);
+        const std::string lowLabel = textOf(low);
+        const std::string highLabel = textOf(high);
+        const double lowX = labelX(high < 0 ? 217 : 417, lowLabel);
+        const double highX = labelX(high < 0 ? 284 : 484, highLabel);
+        print(lowLabel, lowX, labelY);
+        print(highLabel, highX, lowX + sheet_.TextWidth(lowLabel) + apart > highX ? secondRow : labelY);
+    }
 
-// Two numbers on the same side of zero share it; the other side has its two ticks without numbers.
-void drawOnOneSide(Sheet& sheet, double low, double high) {
-    for (const double x : {217.0, 284.0, 417.0, 484.0}) drawTick(sheet, x);
-    drawTickLabel(sheet, high < 0 ? 217 : 417, low);
-    drawTickLabel(sheet, high < 0 ? 284 : 484, high);
-}
+    // One tick on each side; zero itself has its own.
+    void drawOnBothSides(double low, double high) {
+        for (const double x : {250.0, 450.0}) drawTick(x);
+        if (low < 0) print(textOf(low), labelX(250, textOf(low)), labelY);
+        if (high > 0) print(textOf(high), labelX(450, textOf(high)), labelY);
+    }
 
-// One tick on each side; zero itself has its own.
-void drawOnBothSides(Sheet& sheet, double low, double high) {
-    for (const double x : {250.0, 450.0}) drawTick(sheet, x);
-    if (low < 0) drawTickLabel(sheet, 250, low);
-    if (high > 0) drawTickLabel(sheet, 450, high);
-}
+private:
+    static constexpr double axisLeft = 150;
+    static constexpr double axisRight = 550;
+    static constexpr double clearOfProblem = 24;
+
+    static double labelX(double tick, const std::string& label) {
+        return tick + 8 - 7 * static_cast<double>(label.size());
+    }
+    void line(double x1, double y1, double x2, double y2) { sheet_.line(x1 + right_, y1, x2 + right_, y2); }
+    void drawTick(double x) { line(x, axisY - 5, x, axisY + 5); }
+    void print(const std::string& label, double x, double y) {
+        sheet_.CurrentX = x + right_;
+        sheet_.CurrentY = y;
+        sheet_.print(label);
+    }
+
+    Sheet& sheet_;
+    double right_;
+};
 
 }  // namespace
 
@@ -222,15 +245,12 @@ void DrawNumberLine(double a, double b) {
     const double high = std::max(a, b);
 
     sheet.DrawWidth = 2;
-    drawAxis(sheet);
-    drawTick(sheet, 350);
-    sheet.CurrentX = 345;
-    sheet.CurrentY = labelY;
-    sheet.print("0");
+    NumberLine numbers(sheet);
+    numbers.drawAxis();
     if (low != high && (high < 0 || low > 0)) {
-        drawOnOneSide(sheet, low, high);
+        numbers.drawOnOneSide(low, high);
     } else {
-        drawOnBothSides(sheet, low, high);
+        numbers.drawOnBothSides(low, high);
     }
 
     sheet.DrawWidth = width;
