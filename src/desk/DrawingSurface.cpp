@@ -39,6 +39,27 @@ double DrawingSurface::TextHeight() const {
     return lineHeightOf(FontFace, FontSize) / std::abs(perY_);
 }
 
+double DrawingSurface::EmAcross() const {
+    return emOf(FontFace, FontSize) / std::abs(perX_);
+}
+
+double DrawingSurface::EmDown() const {
+    return emOf(FontFace, FontSize) / std::abs(perY_);
+}
+
+double DrawingSurface::SignAir(char sign) const {
+    return signAir(FontFace, sign, FontSize) / std::abs(perX_);
+}
+
+DrawingSurface DrawingSurface::trial() const {
+    DrawingSurface empty;
+    empty.FontSize = FontSize;
+    empty.FontFace = FontFace;
+    empty.perX_ = perX_;
+    empty.perY_ = perY_;
+    return empty;
+}
+
 // Glyphs that go on where a run of the same style ended belong to that run.
 bool DrawingSurface::continues(const Glyphs& run) const {
     constexpr double joint = 1e-6;

@@ -42,6 +42,13 @@ public:
     // Room that text of the current font takes, in the pen's units.
     [[nodiscard]] double TextWidth(std::string_view text) const;
     [[nodiscard]] double TextHeight() const;
+    // The em of the current font, in the pen's units, and the air of a sign (see GlyphMetrics.hpp).
+    [[nodiscard]] double EmAcross() const;
+    [[nodiscard]] double EmDown() const;
+    [[nodiscard]] double SignAir(char sign) const;
+    // An empty surface with the same font and units, its pen at (0, 0), to try out how much room
+    // something takes.
+    [[nodiscard]] DrawingSurface trial() const;
 
     // Text at the pen: CurrentX moves by its width.
     void print(std::string_view text);

@@ -6,16 +6,20 @@ namespace ordwise {
 namespace {
 
 // Advance widths of the characters 32 to 126 in thousandths of an em. HalvernFont draws ` as pi,
-// \\ as plus-or-minus, { as the division sign, ~ and & as the two radical signs, _ as a piece of
-// a bar that joins to its neighbour, and * as the sign of multiplication.
+// \\ as plus-or-minus, { as the division sign, $ as the sign of inequality, ~ and & as the two radical
+// signs, _ as a piece of a bar that joins to its neighbour, and * as the sign of multiplication.
+//
+// 17 blanks, with which each line of a sheet begins, lead to where the rest of a broken line begins.
+// The signs between two operands have the room of an operator on both sides: on a screen at 100 % at
+// least three pixels stay free between a sign and the bar of a fraction beside it.
 // clang-format off
 constexpr std::array<int, 95> halvernWidths{
-    220, 296, 389, 556, 556, 833, 440, 204, 333, 333, 500, 606, 278, 606, 278, 278,
-    556, 556, 556, 556, 556, 556, 556, 556, 556, 556, 278, 278, 606, 606, 606, 444,
+    197, 296, 389, 556, 900, 833, 200, 204, 333, 333, 800, 900, 278, 900, 278, 278,
+    556, 556, 556, 556, 556, 556, 556, 556, 556, 556, 278, 278, 606, 900, 606, 444,
     737, 722, 722, 722, 778, 722, 667, 778, 833, 407, 556, 778, 667, 944, 815, 778,
-    667, 778, 722, 630, 667, 815, 722, 981, 704, 704, 611, 333, 606, 333, 606, 100,
+    667, 778, 722, 630, 667, 815, 722, 981, 704, 704, 611, 333, 900, 333, 606, 100,
     600, 556, 556, 444, 574, 500, 333, 537, 611, 315, 296, 593, 315, 889, 611, 500,
-    574, 556, 444, 463, 389, 611, 537, 778, 537, 537, 481, 606, 606, 333, 450,
+    574, 556, 444, 463, 389, 611, 537, 778, 537, 537, 481, 900, 200, 333, 560,
 };
 
 constexpr std::array<int, 95> headingWidths{
@@ -38,21 +42,21 @@ constexpr std::array<int, 96> headingLatinWidths{
 };
 
 constexpr std::array<int, 95> explanationWidths{
-    250, 278, 402, 500, 500, 889, 640, 227, 490, 490, 500, 760, 250, 333, 250, 511,
-    500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 250, 250, 769, 760, 769, 444,
+    250, 278, 402, 500, 1080, 889, 200, 227, 490, 490, 980, 1080, 250, 333, 250, 511,
+    500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 250, 250, 769, 1080, 769, 444,
     747, 778, 667, 722, 833, 611, 556, 833, 833, 389, 389, 778, 611, 1000, 833, 833,
-    611, 833, 722, 611, 667, 778, 778, 1000, 667, 667, 667, 457, 606, 457, 606, 100,
+    611, 833, 722, 611, 667, 778, 778, 1000, 667, 667, 667, 457, 1080, 457, 606, 100,
     600, 500, 611, 444, 611, 500, 389, 556, 611, 333, 333, 611, 333, 889, 611, 556,
-    611, 611, 389, 444, 333, 611, 556, 833, 500, 556, 500, 606, 232, 472, 450,
+    611, 611, 389, 444, 333, 611, 556, 833, 500, 556, 500, 1080, 200, 472, 560,
 };
 
 constexpr std::array<int, 95> noteWidths{
-    250, 278, 371, 500, 500, 840, 640, 208, 456, 456, 500, 760, 250, 333, 250, 486,
-    500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 250, 250, 767, 760, 767, 444,
+    250, 278, 371, 500, 1080, 840, 200, 208, 456, 456, 980, 1080, 250, 333, 250, 486,
+    500, 500, 500, 500, 500, 500, 500, 500, 500, 500, 250, 250, 767, 1080, 767, 444,
     747, 778, 611, 709, 774, 611, 556, 763, 832, 337, 333, 726, 611, 946, 831, 786,
-    604, 786, 668, 525, 613, 778, 722, 1000, 667, 667, 667, 428, 606, 428, 606, 100,
+    604, 786, 668, 525, 613, 778, 722, 1000, 667, 667, 667, 428, 1080, 428, 606, 100,
     600, 500, 553, 444, 611, 479, 333, 556, 582, 287, 234, 556, 291, 883, 582, 546,
-    601, 560, 395, 424, 326, 603, 565, 834, 516, 556, 500, 606, 208, 441, 450,
+    601, 560, 395, 424, 326, 603, 565, 834, 516, 556, 500, 1080, 200, 441, 560,
 };
 
 constexpr std::array<int, 95> sansWidths{
@@ -86,10 +90,6 @@ const std::array<int, 95>& widthsOf(Face face) {
     return courierWidths;
 }
 
-bool isProse(Face face) {
-    return face == Face::Explanation || face == Face::Note;
-}
-
 // Of the character that begins with a byte beyond ASCII, in a heading.
 int headingWidth(std::string_view character) {
     const auto byte = [character](std::size_t at) { return static_cast<unsigned char>(character[at]); };
@@ -99,6 +99,10 @@ int headingWidth(std::string_view character) {
 }
 
 }  // namespace
+
+bool isProse(Face face) {
+    return face == Face::Explanation || face == Face::Note;
+}
 
 double emOf(Face face, double points) {
     // 20 units at 18 points, where sheets are written, and 11 at 8 points, where exponents are.
@@ -116,11 +120,21 @@ double lineHeightOf(Face face, double points) {
     return (isProse(face) ? 1.45 : 1.2) * emOf(face, points);
 }
 
+double signAir(Face face, char sign, double points) {
+    if (std::string_view("+-=$*{\\").find(sign) == std::string_view::npos) return 0;
+    const int air = sign == '*' ? (isProse(face) ? 237 : 147) : (isProse(face) ? 240 : 150);
+    return air * emOf(face, points) / 1000.0;
+}
+
 double textWidth(Face face, std::string_view text, double points) {
     const std::array<int, 95>& widths = widthsOf(face);
     int thousandths = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto byte = static_cast<unsigned char>(text[i]);
+        if (isProse(face) && text.substr(i, proseMinus.size()) == proseMinus) {
+            thousandths += widths['+' - 32U];
+            continue;
+        }
         if ((byte & 0xC0U) == 0x80U) continue;  // the rest of a character already counted
         if (face == Face::Heading && byte > 126) {
             thousandths += headingWidth(text.substr(i));

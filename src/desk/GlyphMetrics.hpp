@@ -22,14 +22,24 @@ enum class Face {
     Courier       // the bold face of the graph's quadrants
 };
 
+// Words with mathematics in them, and not the other way round.
+[[nodiscard]] bool isProse(Face face);
+// The minus of prose, where "-" is the hyphen.
+inline constexpr std::string_view proseMinus = "\u2212";
+
 // The height of the em in surface units for a font of `points`. HalvernFont is cut a little larger
 // than its size says, so that stacked fractions close up on the lines that the renderer gives them.
 [[nodiscard]] double emOf(Face face, double points);
 // From the top of a line of text to its base line, and from one line to the next.
 [[nodiscard]] double ascentOf(Face face, double points);
 [[nodiscard]] double lineHeightOf(Face face, double points);
-// The advance width of UTF-8 text without kerning. A character outside ASCII counts as a "?"; in a
+// The advance width of UTF-8 text without kerning. In prose U+2212 is
+// the minus. A character outside ASCII counts as a "?"; in a
 // heading the letters of western Europe have their own width, and others count as an "n".
 [[nodiscard]] double textWidth(Face face, std::string_view text, double points);
+
+// How much of the room on either side of a sign it has only as an operator between two operands: a
+// sign before a number, or one with a blank beside it, does without. 0 for what is no such sign.
+[[nodiscard]] double signAir(Face face, char sign, double points);
 
 }  // namespace ordwise

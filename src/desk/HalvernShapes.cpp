@@ -3,13 +3,13 @@
 #include "TextTools.hpp"
 
 #include <cmath>
+#include <map>
 #include <numbers>
 
 namespace ordwise {
 namespace {
 
-// The weight of the signs and the height at which they are centred, as in the text face.
-constexpr double weight = 80;
+// The height at which signs are centred, as in the text faces.
 constexpr double axis = -250;
 
 std::vector<ShapePoint> box(double left, double top, double right, double bottom) {
@@ -26,48 +26,74 @@ std::vector<ShapePoint> dot(double x, double y, double radius) {
     return points;
 }
 
-// The signs that stand between two fractions are shorter than their widths, so that they stand clear of
-// the bars on both sides.
-constexpr double signLeft = 110;
-constexpr double signRight = 496;
+// The signs between two operands, each in the middle of its width: `reach` to both sides of it, so that
+// they stand in columns and clear of the bars beside them.
+constexpr double reach = 240;
 
-Shape minusShape() {
-    return {box(signLeft, axis - weight / 2, signRight, axis + weight / 2)};
-}
+class Signs {
+public:
+    Signs(Face face, double weight) : face_(face), half_(weight / 2) {}
 
-Shape plusShape() {
-    constexpr double x = (signLeft + signRight) / 2;
-    constexpr double arm = (signRight - signLeft) / 2 + 10;
-    return {box(x - arm, axis - weight / 2, x + arm, axis + weight / 2),
-            box(x - weight / 2, axis - arm, x + weight / 2, axis + arm)};
-}
+    [[nodiscard]] Shape minus() const { return {beam('+', 0)}; }  // as wide as a plus
+    [[nodiscard]] Shape plus() const { return {beam('+', 0), stem('+', axis - reach, axis + reach)}; }
+    [[nodiscard]] Shape equals() const { return {beam('=', -equalsApart), beam('=', equalsApart)}; }
+    [[nodiscard]] Shape unequal() const {
+        constexpr double lean = 110;
+        constexpr double rise = 260;
+        const double x = middleOf('$');
+        return {beam('$', -equalsApart),
+                beam('$', equalsApart),
+                {{x + lean - half_, axis - rise},
+                 {x + lean + half_, axis - rise},
+                 {x - lean + half_, axis + rise},
+                 {x - lean - half_, axis + rise}}};
+    }
+    [[nodiscard]] Shape division() const {
+        constexpr double apart = 190;
+        constexpr double radius = 58;
+        const double x = middleOf('{');
+        return {beam('{', 0), dot(x, axis - apart, radius), dot(x, axis + apart, radius)};
+    }
+    [[nodiscard]] Shape plusOrMinus() const {
+        constexpr double height = -372;  // of the plus
+        return {beam('\\', height - axis), stem('\\', -610, -134), beam('\\', -half_ - axis)};
+    }
+    [[nodiscard]] Shape times() const {
+        constexpr double arm = 165;
+        const double thick = 0.7 * half_;  // of the weight, along x and along y
+        const double x = middleOf('*');
+        return {{{x - arm + thick, axis - arm - thick},
+                 {x + arm + thick, axis + arm - thick},
+                 {x + arm - thick, axis + arm + thick},
+                 {x - arm - thick, axis - arm + thick}},
+                {{x + arm - thick, axis - arm - thick},
+                 {x + arm + thick, axis - arm + thick},
+                 {x - arm + thick, axis + arm + thick},
+                 {x - arm - thick, axis + arm - thick}}};
+    }
 
-Shape equalsShape() {
-    constexpr double apart = 90;
-    return {box(signLeft, axis - apart - weight / 2, signRight, axis - apart + weight / 2),
-            box(signLeft, axis + apart - weight / 2, signRight, axis + apart + weight / 2)};
-}
+private:
+    static constexpr double equalsApart = 90;
 
-Shape divisionShape() {
-    return {box(40, axis - weight / 2, 566, axis + weight / 2), dot(303, axis - 190, 58), dot(303, axis + 190, 58)};
-}
+    [[nodiscard]] double middleOf(char sign) const {
+        return textWidth(face_, {&sign, 1}, 1) / emOf(face_, 1) * 1000 / 2;
+    }
+    [[nodiscard]] std::vector<ShapePoint> beam(char sign, double down) const {
+        const double x = middleOf(sign);
+        return box(x - reach, axis + down - half_, x + reach, axis + down + half_);
+    }
+    [[nodiscard]] std::vector<ShapePoint> stem(char sign, double top, double bottom) const {
+        const double x = middleOf(sign);
+        return box(x - half_, top, x + half_, bottom);
+    }
 
-Shape plusOrMinusShape() {
-    return {box(40, -412, 566, -332), box(263, -640, 343, -110), box(40, -80, 566, 0)};
-}
+    Face face_;
+    double half_;  // of the weight
+};
 
-Shape multiplicationShape() {
-    constexpr double arm = 165;
-    constexpr double half = 28;  // of the weight, along x and along y
-    constexpr double x = 250;
-    return {{{x - arm + half, axis - arm - half},
-             {x + arm + half, axis + arm - half},
-             {x + arm - half, axis + arm + half},
-             {x - arm - half, axis - arm + half}},
-            {{x + arm - half, axis - arm - half},
-             {x + arm + half, axis - arm + half},
-             {x - arm + half, axis + arm + half},
-             {x - arm - half, axis + arm - half}}};
+// As near to what stands beside it as a parenthesis.
+Shape absoluteBarShape() {
+    return {box(67, -736, 133, 123)};
 }
 
 // A roof with a falling left end, a straight left leg and a right leg that turns out at its foot.
@@ -111,23 +137,21 @@ Shape piShape() {
 
 // A bar stands below the base line of its own glyph, as the renderer expects: the bar of a fraction
 // is drawn at the height of the numerator. 290 puts it on the axis of the line.
-constexpr double barMiddle = 290;
 constexpr double barWeight = 66;
 
 Shape barShape() {
     return {box(0, barMiddle - barWeight / 2, 100, barMiddle + barWeight / 2)};
 }
 
-// A radical sign whose right stroke ends with its right edge at (x, top), where the bar begins. The
-// renderer begins the bar half a font size behind the left end of the radical and one and a half
-// above its line, and sets the sign 2 to the left of that end and 2 up: measured in letters, that is
-// another place in each face.
-Shape radicalShape(double x, double top) {
+// Its right stroke ends with its right edge where the bar begins.
+Shape radicalShape() {
     constexpr double foot = 310;
+    constexpr double x = radicalRight;
+    constexpr double top = -radicalTop - barWeight / 2;
     return {{{90, -270},
              {215, -362},
              {344, 60},
-             {x - 56, top},
+             {x - strokeWidth, top},
              {x, top},
              {368, foot},
              {312, foot},
@@ -135,46 +159,55 @@ Shape radicalShape(double x, double top) {
              {116, -198}}};
 }
 
-// What leads from the top of an ordinary sign that is set 16 lower up to the bar over a fraction.
-Shape tallRadicalShape(double xFoot, double foot, double xTop, double top) {
-    return {{{xFoot, foot}, {xTop, top}, {xTop + 56, top}, {xFoot + 56, foot}}};
+// What leads from the top of an ordinary sign up to the bar over a fraction. It stands on the base line
+// of the whole, the ordinary sign stands lower.
+Shape tallRadicalShape() {
+    constexpr double foot = -radicalTop + tallRadicalDrop;
+    constexpr double top = -tallRadicalTop - barWeight / 2;
+    constexpr double x = radicalRight - strokeWidth;
+    return {{{x, foot}, {x + tallRadicalLean, top}, {x + tallRadicalLean + strokeWidth, top}, {x + strokeWidth, foot}}};
 }
 
 struct OwnShapes {
-    Shape pi = piShape();
-    Shape plusOrMinus = plusOrMinusShape();
-    Shape division = divisionShape();
-    Shape multiplication = multiplicationShape();
-    Shape minus = minusShape();
-    Shape plus = plusShape();
-    Shape equals = equalsShape();
-    Shape radical = radicalShape(564, -993);
-    Shape tallRadical = tallRadicalShape(248, -180, 345, -1093);
-    Shape explanationRadical = radicalShape(578, -886);
-    Shape tallExplanationRadical = tallRadicalShape(162, 270, 281, -1029);
-    Shape bar = barShape();
+    OwnShapes(Face face, double weight) {
+        const Signs signs(face, weight);
+        shapes = {{'`', piShape()},      {'\\', signs.plusOrMinus()}, {'{', signs.division()},
+                  {'*', signs.times()},  {'-', signs.minus()},        {'+', signs.plus()},
+                  {'=', signs.equals()}, {'$', signs.unequal()},      {'|', absoluteBarShape()},
+                  {'~', radicalShape()}, {'&', tallRadicalShape()},   {'_', barShape()}};
+    }
+    std::map<char, Shape> shapes;
 };
+
+const OwnShapes* shapesOf(Face face) {
+    static const OwnShapes sheet(Face::Halvern, 80);
+    static const OwnShapes window(Face::Explanation, 100);
+    static const OwnShapes note(Face::Note, 75);
+    switch (face) {
+        case Face::Halvern: return &sheet;
+        case Face::Explanation: return &window;
+        case Face::Note: return &note;
+        default: return nullptr;  // no mathematics is written in others
+    }
+}
+
+const Shape* shapeOfSign(Face face, char sign) {
+    const OwnShapes* own = shapesOf(face);
+    if (own == nullptr) return nullptr;
+    const auto found = own->shapes.find(sign);
+    return found == own->shapes.end() ? nullptr : &found->second;
+}
+
+const Shape* shapeOfCharacter(Face face, const std::string& character) {
+    if (character == proseMinus) return isProse(face) ? shapeOfSign(face, '-') : nullptr;
+    return character.size() == 1 ? shapeOf(face, character[0]) : nullptr;
+}
 
 }  // namespace
 
+// In the prose of an explanation "-" is the hyphen of the face, and the minus has a character of its own.
 const Shape* shapeOf(Face face, char character) {
-    const bool prose = face == Face::Explanation || face == Face::Note;
-    if (face != Face::Halvern && !prose) return nullptr;  // no mathematics is written in others
-    static const OwnShapes own;
-    switch (character) {
-        case '`': return &own.pi;
-        case '\\': return &own.plusOrMinus;
-        case '{': return &own.division;
-        case '*': return &own.multiplication;
-        case '~': return face == Face::Halvern ? &own.radical : &own.explanationRadical;
-        case '&': return face == Face::Halvern ? &own.tallRadical : &own.tallExplanationRadical;
-        case '_': return &own.bar;
-        case '+': return face == Face::Halvern ? &own.plus : nullptr;
-        case '=': return face == Face::Halvern ? &own.equals : nullptr;
-        // In the prose of an explanation it is a hyphen more often than a minus.
-        case '-': return face == Face::Halvern ? &own.minus : nullptr;
-        default: return nullptr;
-    }
+    return character == '-' && isProse(face) ? nullptr : shapeOfSign(face, character);
 }
 
 std::vector<PlacedGlyph> placedGlyphs(const Glyphs& run) {
@@ -182,7 +215,7 @@ std::vector<PlacedGlyph> placedGlyphs(const Glyphs& run) {
     double x = run.x;
     for (const std::string& character : characters(run.text)) {
         const double width = textWidth(run.face, character, run.size);
-        const Shape* shape = character.size() == 1 ? shapeOf(run.face, character[0]) : nullptr;
+        const Shape* shape = shapeOfCharacter(run.face, character);
         if (character == "_" && shape != nullptr && !placed.empty() && placed.back().shape == shape) {
             placed.back().stretch += 1;
         } else if (character != " ") {

@@ -23,9 +23,22 @@ struct ShapePoint {
 // the nonzero rule.
 using Shape = std::vector<std::vector<ShapePoint>>;
 
+// How a radical is put together, in thousandths of an em above and right of the place of its sign. An
+// ordinary sign reaches up to a bar at radicalTop. Over a fraction the sign stands lower by
+// tallRadicalDrop, and its upper part leads on to a bar at tallRadicalTop, further right by the lean.
+inline constexpr double radicalTop = 920;
+inline constexpr double radicalRight = 560;
+inline constexpr double strokeWidth = 56;
+inline constexpr double tallRadicalTop = 1660;
+inline constexpr double tallRadicalDrop = 720;
+inline constexpr double tallRadicalLean = 112;
+// The middle of a bar, below the base line of its glyph.
+inline constexpr double barMiddle = 290;
+
 // The drawing of a character that HalvernFont shapes itself: ` pi, \ plus-or-minus, { division,
-// * multiplication, - minus, ~ the radical sign, & the upper part of a tall one, _ a piece of a bar.
-// Null for a character that the text face supplies.
+// * multiplication, + plus, - minus, = equals, $ is not equal, | the bar of an absolute value, ~ the
+// radical sign, & the upper part of a tall one, _ a piece of a bar. Null for a character that the text
+// face supplies, such as the "-" of an explanation.
 [[nodiscard]] const Shape* shapeOf(Face face, char character);
 
 // A glyph at its place: `character` from the text face if `shape` is null.

@@ -62,6 +62,7 @@ struct PaperWindow {
     bool Loaded = false;
     BoundedArray<Sheet, lastSheet> Paper;
     int FrontOrder = 0;     // the highest Order given so far
+    double PileShift = 0;   // how far the pile has pushed the assistant and the light to the right
     bool PileFull = false;  // the last line found no room on the tenth sheet, and a message has said so
     Control Label7;         // the date, on the first sheet
     Control Light;

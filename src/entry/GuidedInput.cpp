@@ -2,18 +2,20 @@
 
 #include "CanonicalRewrite.hpp"
 #include "Catalogue.hpp"
+#include "Fault.hpp"
 #include "InputMaskCheck.hpp"
 #include "SolveDriver.hpp"
 #include "StepDisplay.hpp"
 #include "SyntaxCheck.hpp"
 #include "TextTools.hpp"
+#include "TypedRoom.hpp"
 #include "Windows.hpp"
 #include "WorksheetLayout.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
 #include "basFPrint.hpp"
 
-#include <limits>
+#include <cmath>
 
 namespace ordwise {
 
@@ -25,7 +27,7 @@ constexpr double fullLineX = 730;
 constexpr int mostKeys = 300;
 
 bool lineIsFull() {
-    return ws.LineEndX >= fullLineX || ws.InputLast >= mostKeys;
+    return ws.TypedEndX >= fullLineX || ws.InputLast >= mostKeys;
 }
 
 // Undoes what the removed character did to the syntax state. What else it had closed, an exponent
@@ -81,7 +83,9 @@ void showAccepted() {
     frmPaper.Light.ToolTip = "Correct Input.";
     const Sheet& paper = frmPaper.Paper[0];
     frmPaper.Pencil.Left = ws.LineEndsInFraction ? ws.DenominatorEndX + paper.Left - 11 : ws.LineEndX + paper.Left - 9;
-    frmPaper.Pencil.Top = paper.Top - 122;
+    constexpr double rowHeight = 46;
+    const double rows = std::floor((ws.LineEndY - sheetTopY) / rowHeight);  // below the first, of a broken line
+    frmPaper.Pencil.Top = paper.Top - 122 + rows * rowHeight;
 }
 
 void showRefused() {
@@ -124,12 +128,9 @@ KeyOutcome Form_KeyPress(std::string_view key) {
 }
 
 bool hasRoomFor(std::string_view line) {
-    SurfaceOffsets inOneRow = worksheetOffsets;
-    inOneRow.breakAt = std::numeric_limits<double>::infinity();
-    DrawingSurface paper;
-    MathLineRenderer renderer(paper, inOneRow, black, [&](bool) -> DrawingSurface& { return paper; });
-    renderer.line(line);
-    return renderer.lineEndX() < fullLineX;
+    const std::optional<double> end = typedEnd(line, TypedRows::One);
+    if (!end) raise(FaultNumber::Subscript);
+    return *end < fullLineX;
 }
 
 void FormFilter(std::string_view key, bool quiet) {
@@ -142,7 +143,9 @@ void FormFilter(std::string_view key, bool quiet) {
 
     GroupInput();
     const std::string markup = RewriteAll();
-    if (!quiet) PrintMathLine(markup, false);
+    if (quiet) return;
+    PrintMathLine(markup, false);
+    ws.TypedEndX = typedEnd(markup).value_or(ws.TypedEndX);
 }
 
 }  // namespace ordwise

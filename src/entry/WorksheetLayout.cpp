@@ -6,6 +6,7 @@
 #include "GlyphMetrics.hpp"
 #include "NumberText.hpp"
 #include "Platform.hpp"
+#include "StepDisplay.hpp"
 #include "WorksheetBoxes.hpp"
 #include "WorksheetErase.hpp"
 #include "Workspace.hpp"
@@ -67,6 +68,13 @@ const PlacedBox* boxBehind(const PlacedLabel& label, const std::vector<PlacedBox
     return nearest;
 }
 
+// Of a caption whose signs have no room of an operator at its ends.
+double captionWidth(const std::string& caption) {
+    if (caption.empty()) return 0;
+    return textWidth(Face::Halvern, caption, labelPoints) - signAir(Face::Halvern, caption.front(), labelPoints) -
+           signAir(Face::Halvern, caption.back(), labelPoints);
+}
+
 // A caption such as "a=" ends at its box; one such as "=radius" or "%    of" starts at its place.
 void showLabel(const PlacedLabel& placed, const std::vector<PlacedBox>& boxes) {
     Control& label = frmPaper.*placed.label;
@@ -76,7 +84,7 @@ void showLabel(const PlacedLabel& placed, const std::vector<PlacedBox>& boxes) {
     const PlacedBox* box = label.AlignRight ? boxBehind(placed, boxes) : nullptr;
     // Blanks behind a sign keep the box away and may lie under it.
     const std::string lettered = label.Text.substr(0, label.Text.find_last_not_of(' ') + 1);
-    const double width = box != nullptr ? box->left - placed.left : textWidth(Face::Halvern, lettered, labelPoints) + 2;
+    const double width = box != nullptr ? box->left - placed.left : captionWidth(lettered) + 2;
     place(label, placed.left, placed.top, width, labelHeight);
 }
 
@@ -143,6 +151,7 @@ const std::vector<std::string>& roundingChoices() {
 }
 
 void clearDesk() {
+    pushBesidePile(-frmPaper.PileShift);
     static const Sheet fresh;  // assigned by copy: so the sheets keep the memory of their drawings
     for (int i = 0; i <= PaperWindow::lastSheet; ++i) {
         Sheet& sheet = frmPaper.Paper[i];
@@ -161,6 +170,7 @@ void clearDesk() {
     frmPaper.FrontOrder = 0;
     ws.CurrentSheet = 0;
     ws.LineEndX = 0;
+    ws.TypedEndX = 0;
     ws.LineEndsInFraction = false;
     // The point of the pencil, 9 right and at the foot of its picture, waits at the first key's place.
     const double lineStart = textWidth(Face::Halvern, std::string(17, ' '), first.FontSize) - 4;

@@ -17,7 +17,7 @@ constexpr auto L1 = &PaperWindow::Label1, L2 = &PaperWindow::Label2, L3 = &Paper
 constexpr auto L4 = &PaperWindow::Label4, L5 = &PaperWindow::Label5, L8 = &PaperWindow::Label8;
 
 // As wide as a box in any face: three dashes of an em each.
-constexpr const char* fractionBar = "\u2014\u2014\u2014";
+constexpr const char* fractionBar = "______________________________";
 
 // clang-format off
 const std::vector<WorksheetLayout> layouts = {

@@ -139,16 +139,14 @@ void DeskView::setViewport(QSize size) {
 // Room for every sheet at the place where it was laid down. Where a sheet was dragged to does not
 // count: the desk would shrink under the hand.
 QSizeF DeskView::deskSize() {
-    constexpr double sheetsLeft = 60;
     constexpr double sheetsTop = 40;
     constexpr double step = 25;
     int last = 0;
     for (int number = 0; number <= PaperWindow::lastSheet; ++number) {
         if (frmPaper.Loaded && frmPaper.Paper[number].Visible) last = number;
     }
-    const Sheet& first = frmPaper.Paper[0];
-    return {std::max(deskWidth, sheetsLeft + last * step + first.Width + SheetView::shadow),
-            std::max(deskHeight, sheetsTop + last * step + paperHeight() + SheetView::shadow)};
+    // The light and the assistant stand beside the topmost sheet.
+    return {deskWidth + last * step, std::max(deskHeight, sheetsTop + last * step + paperHeight() + SheetView::shadow)};
 }
 
 void DeskView::fitScale() {

@@ -2,6 +2,7 @@
 
 #include "Art.hpp"
 #include "DisplayListPainter.hpp"
+#include "HalvernShapes.hpp"
 #include "WorksheetLayout.hpp"
 
 #include <QPainter>
@@ -34,14 +35,21 @@ void paintEmptyPaper(QPainter& painter, const Sheet& sheet) {
     painter.drawLine(QPointF(marginX, 0), QPointF(marginX, paperHeight()));
 }
 
+// The room that a sign has as an operator is none beside a box.
 double captionLeft(const Control& label, double points) {
-    return label.AlignRight ? label.Left + label.Width - textWidth(Face::Halvern, label.Text, points) : label.Left;
+    if (label.Text.empty()) return label.Left;
+    const auto air = [points](char sign) { return signAir(Face::Halvern, sign, points); };
+    if (!label.AlignRight) return label.Left - air(label.Text.front());
+    return label.Left + label.Width + air(label.Text.back()) - textWidth(Face::Halvern, label.Text, points);
 }
 
-// The text stands in the middle of the control's height.
+// The text stands in the middle of the control's height, and so does a bar, which is drawn lower.
 void paintCaption(QPainter& painter, const Control& label, double points, Colour colour) {
     const double x = captionLeft(label, points);
-    const double y = label.Top + (label.Height - lineHeightOf(Face::Halvern, points)) / 2;
+    const double middle = label.Top + label.Height / 2;
+    const bool bar = !label.Text.empty() && label.Text.front() == '_';
+    const double barDown = ascentOf(Face::Halvern, points) + barMiddle / 1000 * emOf(Face::Halvern, points);
+    const double y = middle - (bar ? barDown : lineHeightOf(Face::Halvern, points) / 2);
     paintText(painter, label.Text, x, y, Face::Halvern, points, colour);
 }
 

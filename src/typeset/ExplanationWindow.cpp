@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ordwise {
 namespace {
@@ -35,60 +36,72 @@ Explanation pickExplanation() {
     return {note, false};
 }
 
-double widthOf(std::string_view text) {
-    return textWidth(frmExplain.FontFace, text, frmExplain.FontSize);
+// Reasons of refusals are plain words: a "^" or "~" in them is a key that the student typed.
+double write(DrawingSurface& surface, std::string_view line, bool plain) {
+    MathLineRenderer renderer(surface, explanationOffsets, blue,
+                              [&surface](bool) -> DrawingSurface& { return surface; });
+    if (plain) {
+        renderer.words(line);
+    } else {
+        renderer.line(line);
+    }
+    return renderer.lineWidth();
 }
 
-// What the fraction whose "/" stands at `slash` gives back of its measured width, as a row of narrow
-// letters: the bar stands for the "/", and the denominator goes below the numerator.
-std::string creditOf(std::string_view text, std::size_t slash) {
-    const std::size_t end = std::min(text.find('#', slash), text.size());
-    return std::string(3 + (end - slash - 1), 'i');
+// As drawn, since a fraction takes less room than its characters.
+double widthOf(std::string_view text, bool plain) {
+    DrawingSurface beside = frmExplain.trial();
+    return write(beside, text, plain);
 }
 
-// How many characters of `text` go on one line, and where the rest begins. Breaks at the last blank
-// that fits and is not within a fraction, an exponent or a radical; without one, inside the word.
-struct LineBreak {
-    std::size_t length;
-    std::size_t rest;
-};
-
-LineBreak breakOf(std::string_view text, bool plain) {
-    std::size_t lastBlank = std::string_view::npos;
-    std::string credit;
+// The blanks at which a text may break: those not within a fraction, an exponent or a radical.
+std::vector<std::size_t> breaksOf(std::string_view text, bool plain) {
+    std::vector<std::size_t> blanks;
     char openMark = '\0';
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
-        if (!plain && c == '/') credit += creditOf(text, i);
-        if (!plain && (c == openMark || (openMark == '\0' && (c == '#' || c == '^' || c == '~'))))
-            openMark = c == openMark ? '\0' : c;
-        if (c == ' ' && openMark == '\0') lastBlank = i;
-        const bool fits = widthOf(text.substr(0, i + 1)) - widthOf(credit) <= frmExplain.Width;
-        if (fits || i == 0) continue;
-        if (lastBlank != std::string_view::npos) return {lastBlank, lastBlank};
-        return {i, i};
+        const bool mark = !plain && (c == '#' || c == '^' || c == '~');
+        if (mark && c == openMark) {
+            openMark = '\0';
+        } else if (mark && openMark == '\0') {
+            openMark = c;
+        }
+        if (c == ' ' && openMark == '\0') blanks.push_back(i);
     }
-    return {text.size(), text.size()};
+    return blanks;
 }
 
-// Reasons of refusals are plain words: a "^" or "~" in them is a key that the student typed.
-void drawLine(std::string_view line, bool plain) {
-    if (plain) {
-        frmExplain.ForeColor = blue;
-        frmExplain.CurrentY += explanationOffsets.moveDown.at(frmExplain.FontSize);
-        frmExplain.printLine(line);
-        return;
+// How much of a word without a blank goes on one line; a construct stays whole.
+std::size_t cutOf(std::string_view text, bool plain) {
+    std::size_t fits = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        const bool mark = !plain && (text[i] == '#' || text[i] == '^' || text[i] == '~');
+        const std::size_t close = mark ? text.find(text[i], i + 1) : i;
+        i = std::min(close, text.size() - 1) + 1;
+        if (fits > 0 && widthOf(text.substr(0, i), plain) > frmExplain.Width) break;
+        fits = i;
     }
-    MathLineRenderer renderer(frmExplain, explanationOffsets, blue, [](bool) -> DrawingSurface& { return frmExplain; });
-    renderer.line(line);
+    return fits;
+}
+
+// How many characters of `text` go on one line.
+std::size_t lineOf(std::string_view text, bool plain) {
+    if (widthOf(text, plain) <= frmExplain.Width) return text.size();
+    const std::vector<std::size_t> blanks = breaksOf(text, plain);
+    std::size_t fits = 0;
+    for (const std::size_t blank : blanks) {
+        if (widthOf(text.substr(0, blank), plain) > frmExplain.Width) break;
+        fits = blank;
+    }
+    return fits > 0 ? fits : cutOf(text.substr(0, blanks.empty() ? text.size() : blanks.front()), plain);
 }
 
 void drawWrapped(const Explanation& explanation) {
     std::string_view text = explanation.text;
     while (!text.empty()) {
-        const LineBreak found = breakOf(text, explanation.plain);
-        drawLine(text.substr(0, found.length), explanation.plain);
-        text.remove_prefix(found.rest);
+        const std::size_t length = lineOf(text, explanation.plain);
+        write(frmExplain, text.substr(0, length), explanation.plain);
+        text.remove_prefix(length);
         text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     }
 }

@@ -1,5 +1,6 @@
 #include "StepDisplay.hpp"
 
+#include "Fault.hpp"
 #include "Platform.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
@@ -14,24 +15,90 @@ Sheet& currentSheet() {
     return frmPaper.Paper[ws.CurrentSheet];
 }
 
-void showStep(int step, bool placeButton) {
-    const std::string& line = ws.StepLines[step];
-    PrintMathLine(line, placeButton);
+// Where the lines from `first` on come to stand when they begin at the pen of the current sheet.
+struct Trial {
+    int sheets = 0;           // that are begun
+    bool aloneAtEnd = false;  // the last line begins one, and stands on it alone
+};
+
+Trial tryLines(int first, int last, double closer) {
+    DrawingSurface surface = currentSheet().trial();
+    surface.CurrentY = currentSheet().CurrentY;
+    const SurfaceOffsets offsets = closedUp(closer);
+    Trial trial;
+    for (int i = first; i <= last; ++i) {
+        const int before = trial.sheets;
+        bool begins = false;
+        MathLineRenderer renderer(surface, offsets, black, [&](bool afterBreak) -> DrawingSurface& {
+            ++trial.sheets;
+            begins = begins || !afterBreak;
+            surface.CurrentX = 0;
+            surface.CurrentY = afterBreak ? sheetTopAfterBreak : sheetTopY;
+            return surface;
+        });
+        try {
+            renderer.line(ws.StepLines[i]);
+        } catch (const RunTimeFault&) {
+            renderer.newLine();
+        }
+        trial.aloneAtEnd = begins && trial.sheets == before + 1;
+    }
+    return trial;
+}
+
+// False only where the lines find room on the sheet without looking any closer.
+bool mayTurnSheet(int first, int last) {
+    constexpr double rowHeight = 68;
+    constexpr std::size_t surelyOneRow = 35;
+    double y = currentSheet().CurrentY;
+    for (int i = first; i <= last; ++i) y += rowHeight * static_cast<double>(1 + ws.StepLines[i].size() / surelyOneRow);
+    return y > worksheetOffsets.pageFull;
+}
+
+int lastLine() {
+    int last = lastShownStep();
+    while (last > 0 && ws.StepLines[last].empty()) --last;
+    return last;
+}
+
+// How the lines from one on to the end are drawn so that the last is not alone on a sheet: all of them
+// closer to one another, or, where that does not help, with the line before the last on the new sheet.
+struct Plan {
+    double closer = 0;
+    int turnBefore = 0;
+};
+
+Plan planFrom(int first) {
+    constexpr double most = 11;  // fractions one below the other keep clear
+    const int last = lastLine();
+    if (!mayTurnSheet(first, last) || !tryLines(first, last, 0).aloneAtEnd) return {};
+    for (double closer = 1; closer <= most; closer += 1) {
+        if (!tryLines(first, last, closer).aloneAtEnd) return {closer, 0};
+    }
+    return {0, last - 1};
+}
+
+void drawStep(int i, bool placeButton, const Plan& plan) {
+    const bool turns = i == plan.turnBefore && ws.CurrentSheet < PaperWindow::lastSheet;
+    if (turns && currentSheet().CurrentY > sheetTopY) currentSheet().CurrentY = worksheetOffsets.pageFull + 1;
+    const std::string& line = ws.StepLines[i];
+    PrintMathLine(line, placeButton, plan.closer);
     // A step may have a note only.
     if (!line.empty()) ws.LineInView = line;
 }
 
 void showAll() {
+    const Plan plan = planFrom(2);
     const int last = lastShownStep();
     for (int i = 2; i <= last; ++i) {
-        showStep(i, false);
+        drawStep(i, false, plan);
         ws.ShownStep = i;
     }
     PlaceCheckMark();
 }
 
 void showLast() {
-    if (!ws.StepLines[ws.ShownStep].empty()) showStep(ws.ShownStep, false);
+    if (!ws.StepLines[ws.ShownStep].empty()) drawStep(ws.ShownStep, false, planFrom(ws.ShownStep));
     PlaceCheckMark();
     // Only a student who steps through to the end is taken to the graph.
     if (ws.ProblemType == 105) {
@@ -55,7 +122,7 @@ void ShowSteps() {
     if (ws.ShownStep == 0) {
         showAll();
     } else if (ws.ShownStep < ws.StepCount - 1) {
-        showStep(ws.ShownStep, true);
+        drawStep(ws.ShownStep, true, planFrom(ws.ShownStep));
     } else {
         showLast();
     }

@@ -15,6 +15,10 @@ namespace ordwise {
 // drawn again.
 void ShowSteps();
 
+// Moves the assistant with its signal and the light along with the right edge of the topmost sheet, as
+// far as they stand beside it and were not put elsewhere.
+void pushBesidePile(double right);
+
 // The button behind the last line, blinking; the assistant's signal blinks with it.
 void PlaceNextStep();
 // The check mark behind the last line.

@@ -1,5 +1,5 @@
-// Draws MathMarkup, character by character and without a measuring pass: what has been drawn moves
-// the pen, and fractions, exponents and radicals are placed relative to the pen.
+// Draws MathMarkup, character by character: what has been drawn moves the pen, and fractions, exponents
+// and radicals are placed relative to the pen. Only the halves of a fraction are measured beforehand.
 //
 // The markup: #a/b# a stacked fraction, ^n^ raised text, ~r~ a radical, "[" and "]" the highlight
 // colour on and off; every other character is a glyph. A fraction splits at its last "/" outside of
@@ -28,6 +28,7 @@ struct SurfaceOffsets {
     double indent = 0;           // added to CurrentX before the line
     Distance moveDown;           // before a line; the result is the base line of the line
     Distance moveDownFraction;   // the same for a line that holds a "/"
+    Distance belowFraction;      // added behind a line that holds a fraction
     double breakAt = 0;          // a plain character that ends beyond it breaks the line
     double breakX = 0;           // where the rest of a broken line begins
     double breakDown = 0;        // and how far below
@@ -37,16 +38,11 @@ struct SurfaceOffsets {
     Distance exponentRaise;      // by the size of the exponent
     Distance numeratorRaise;
     Distance denominatorDrop;
-    Distance radicalBarRaise;
-    Distance radicalBarStart;
-    double signUp = 0;      // of an ordinary radical sign
-    double tallSignUp = 0;  // before the upper part of a tall radical
-    double tallSignRight = 0;
-    double tallSignDown = 0;  // behind it
-    double tallSignLeft = 0;
 };
 
 extern const SurfaceOffsets worksheetOffsets;
+// The worksheet's, with so much less of a gap above each line.
+[[nodiscard]] SurfaceOffsets closedUp(double closer);
 extern const SurfaceOffsets explanationOffsets;
 extern const SurfaceOffsets printerOffsets;  // also of the print preview, which shows the same pages
 
@@ -66,33 +62,46 @@ public:
     // its closing mark and for text beyond the limits; what was drawn so far stays.
     void line(std::string_view markup);
 
+    // The same for words without markup, in which every mark is a character.
+    void words(std::string_view text);
+
     // After a fault: puts the pen to the beginning of the next line, as if the line had ended where
     // the fault came. Does nothing when no line was begun.
     void newLine();
 
+    // Where the pen stood at the end of the line drawn last, and what stands behind the line begins.
+    [[nodiscard]] double lineWidth() const;
     [[nodiscard]] double lineEndX() const { return lineEndX_; }
     [[nodiscard]] double lineEndY() const { return lineEndY_; }
     [[nodiscard]] double denominatorEndX() const { return denominatorEndX_; }
     [[nodiscard]] bool endsInFraction() const { return endsInFraction_; }
 
 private:
+    void begin(bool hasFraction);
+    void end();
     void construct(char mark, std::string_view text);
-    void plain(char c);
+    void plain(std::string_view s, std::size_t at);
+    void glyph(std::string_view text, std::size_t at);
+    void sign(char c, bool airBefore, bool airBehind);
     void breakLine();
     void turnFullPage();
     void turnPage(bool afterBreak);
     void colour(char mark);
     void PrintExponent(std::string_view text);
     void PrintFraction(std::string_view text);
-    double half(std::string_view text, std::size_t padding);
+    void part(std::string_view text);
+    [[nodiscard]] double widthOf(std::string_view part) const;
     void PrintRadical(std::string_view text);
-    void bar(double until);
+    [[nodiscard]] double barOver(double width) const;
+    void bar(double width);
 
     DrawingSurface* surface_;
     const SurfaceOffsets& offsets_;
     Colour normal_;
     NextPage nextPage_;
     bool begun_ = false;
+    bool overfull_ = false;  // a character has passed breakAt; what comes next breaks the line
+    bool inRadical_ = false;
     double baseline_ = 0;
     double lineEndX_ = 0;
     double lineEndY_ = 0;
@@ -102,7 +111,8 @@ private:
 
 // Draws one line on the current sheet of the worksheet, going to the next sheet where it is full,
 // and leaves LineEndX, LineEndY, DenominatorEndX and LineEndsInFraction. With `placeButton` the
-// Next Step button is put behind it. A line that cannot be drawn ends in a message box.
-void PrintMathLine(std::string_view line, bool placeButton);
+// Next Step button is put behind it. A line that cannot be drawn ends in a message box. `closer` is taken
+// from the gap above the line.
+void PrintMathLine(std::string_view line, bool placeButton, double closer = 0);
 
 }  // namespace ordwise

@@ -10,6 +10,7 @@ namespace ordwise {
 namespace {
 
 constexpr std::size_t longestLine = 3000;
+constexpr double lineEndGap = 4;  // of what stands behind a line
 
 bool opensConstruct(char c) {
     return c == '#' || c == '^' || c == '~';
@@ -25,23 +26,43 @@ MathLineRenderer::MathLineRenderer(DrawingSurface& surface, const SurfaceOffsets
                                    NextPage nextPage)
     : surface_(&surface), offsets_(offsets), normal_(normal), nextPage_(std::move(nextPage)) {}
 
-void MathLineRenderer::line(std::string_view s) {
-    if (!offsets_.pageTestFirst && surface_->CurrentY > offsets_.pageFull) turnPage(false);
-    if (s.size() > longestLine) raise(FaultNumber::Subscript);
+void MathLineRenderer::begin(bool hasFraction) {
     surface_->ForeColor = normal_;
     surface_->print(std::string(static_cast<std::size_t>(offsets_.indentBlanks), ' '));
     surface_->CurrentX += offsets_.indent;
-    const bool hasFraction = s.find('/') != std::string_view::npos;
     surface_->CurrentY += (hasFraction ? offsets_.moveDownFraction : offsets_.moveDown).at(surface_->FontSize);
     baseline_ = surface_->CurrentY;
     begun_ = true;
     endsInFraction_ = false;
+    overfull_ = false;
+}
 
+void MathLineRenderer::end() {
+    lineEndX_ = surface_->CurrentX - lineEndGap;
+    lineEndY_ = surface_->CurrentY;
+    newLine();
+}
+
+double MathLineRenderer::lineWidth() const {
+    return lineEndX_ + lineEndGap;
+}
+
+void MathLineRenderer::words(std::string_view text) {
+    begin(false);
+    for (std::size_t i = 0; i < text.size(); ++i) glyph(text, i);
+    end();
+}
+
+void MathLineRenderer::line(std::string_view s) {
+    if (!offsets_.pageTestFirst && surface_->CurrentY > offsets_.pageFull) turnPage(false);
+    if (s.size() > longestLine) raise(FaultNumber::Subscript);
+    begin(s.find('/') != std::string_view::npos);
     for (std::size_t i = 0; i < s.size();) {
         const char c = s[i];
         if (opensConstruct(c)) {
             const std::size_t end = s.find(c, i + 1);
             if (end == std::string_view::npos) raise(FaultNumber::Subscript);
+            if (overfull_) breakLine();
             turnFullPage();  // a line may hold nothing but a fraction
             construct(c, s.substr(i + 1, end - i - 1));
             surface_->CurrentY = baseline_;
@@ -50,13 +71,12 @@ void MathLineRenderer::line(std::string_view s) {
             colour(c);
             ++i;
         } else {
-            plain(c);
+            plain(s, i);
             ++i;
         }
     }
-    lineEndX_ = surface_->CurrentX - 4;
-    lineEndY_ = surface_->CurrentY;
-    newLine();
+    end();
+    if (s.find('#') != std::string_view::npos) surface_->CurrentY += offsets_.belowFraction.at(surface_->FontSize);
 }
 
 void MathLineRenderer::newLine() {
@@ -77,14 +97,18 @@ void MathLineRenderer::construct(char mark, std::string_view text) {
     }
 }
 
-void MathLineRenderer::plain(char c) {
+// A line breaks before what comes behind the character that went too far, and not when nothing does.
+void MathLineRenderer::plain(std::string_view s, std::size_t at) {
     endsInFraction_ = false;
+    if (overfull_ && s[at] == ' ') return;
+    if (overfull_) breakLine();
     turnFullPage();
-    surface_->print(std::string_view(&c, 1));
-    if (surface_->CurrentX > offsets_.breakAt) breakLine();
+    glyph(s, at);
+    overfull_ = surface_->CurrentX > offsets_.breakAt;
 }
 
 void MathLineRenderer::breakLine() {
+    overfull_ = false;
     surface_->print("...");
     surface_->CurrentX = offsets_.breakX;
     baseline_ += offsets_.breakDown;

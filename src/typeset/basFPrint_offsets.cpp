@@ -15,6 +15,7 @@ const SurfaceOffsets worksheetOffsets{
     .indent = 0,
     .moveDown = {2.4, 0},
     .moveDownFraction = {2.4, 0},
+    .belowFraction = {0, 0},
     .breakAt = 750,
     .breakX = 67,
     .breakDown = 46,
@@ -24,13 +25,6 @@ const SurfaceOffsets worksheetOffsets{
     .exponentRaise = {0.2, 0},
     .numeratorRaise = {0.6, 0},
     .denominatorDrop = {1.7, 0},
-    .radicalBarRaise = {1.5, 0},
-    .radicalBarStart = {0.5, 0},
-    .signUp = 2,
-    .tallSignUp = 9,
-    .tallSignRight = 2,
-    .tallSignDown = 16,
-    .tallSignLeft = 14,
 };
 
 const SurfaceOffsets explanationOffsets{
@@ -38,6 +32,7 @@ const SurfaceOffsets explanationOffsets{
     .indent = 0,
     .moveDown = {0, 3},
     .moveDownFraction = {1, 0},
+    .belowFraction = {0.75, 0},
     .breakAt = never,
     .breakX = 0,
     .breakDown = 0,
@@ -47,23 +42,16 @@ const SurfaceOffsets explanationOffsets{
     .exponentRaise = {0.2, 0},
     .numeratorRaise = {0.6, 0},
     .denominatorDrop = {1.7, 0},
-    .radicalBarRaise = {1.5, 0},
-    .radicalBarStart = {0.5, 0},
-    .signUp = 2,
-    .tallSignUp = 9,
-    .tallSignRight = 2,
-    .tallSignDown = 16,
-    .tallSignLeft = 14,
 };
 
 // For 12 points on portrait paper, where a unit across is about 0.9 and one down 1.6 of a letter's
-// units. Fractions and radicals follow the font, since explanations print at 10 points; the signs of
-// the radicals are put where their strokes meet.
+// units. Fractions follow the font, since explanations print at 10 points.
 const SurfaceOffsets printerOffsets{
     .indentBlanks = 0,
     .indent = 12,
     .moveDown = {0, 12},
     .moveDownFraction = {0, 12},
+    .belowFraction = {0, 0},
     .breakAt = 765,
     .breakX = 15,
     .breakDown = 12,
@@ -73,13 +61,13 @@ const SurfaceOffsets printerOffsets{
     .exponentRaise = {0, 1},
     .numeratorRaise = {5.0 / 12, 0},
     .denominatorDrop = {14.0 / 12, 0},
-    .radicalBarRaise = {1, 0},
-    .radicalBarStart = {0.5, 0},
-    .signUp = 1,
-    .tallSignUp = 4,
-    .tallSignRight = 1,
-    .tallSignDown = 7.4,
-    .tallSignLeft = 11.4,
 };
+
+SurfaceOffsets closedUp(double closer) {
+    SurfaceOffsets offsets = worksheetOffsets;
+    offsets.moveDown.fixed -= closer;
+    offsets.moveDownFraction.fixed -= closer;
+    return offsets;
+}
 
 }  // namespace ordwise

@@ -10,6 +10,8 @@
 namespace ordwise {
 namespace {
 
+constexpr double pileStep = 25;
+
 // Opens the sheet behind the current one, a little lower and to the right, and brings it to the
 // front. The eleventh sheet is fault 9; the current sheet then stays the tenth.
 DrawingSurface& nextSheet(bool afterBreak) {
@@ -17,10 +19,11 @@ DrawingSurface& nextSheet(bool afterBreak) {
     Sheet& sheet = frmPaper.Paper[ws.CurrentSheet + 1];
     ws.CurrentSheet += 1;
     old.blinker.Visible = false;
+    pushBesidePile(pileStep);
     sheet.CurrentY = afterBreak ? sheetTopAfterBreak : sheetTopY;
     sheet.CurrentX = 0;
-    sheet.Left = old.Left + 25;
-    sheet.Top = old.Top + 25;
+    sheet.Left = old.Left + pileStep;
+    sheet.Top = old.Top + pileStep;
     sheet.Width = 800;
     sheet.Height = 657;
     sheet.Visible = true;
@@ -40,8 +43,21 @@ void reportFault() {
 
 }  // namespace
 
-void PrintMathLine(std::string_view line, bool placeButton) {
-    MathLineRenderer renderer(frmPaper.Paper[ws.CurrentSheet], worksheetOffsets, black, nextSheet);
+void pushBesidePile(double right) {
+    const Sheet& sheet = frmPaper.Paper[0];
+    const double pileEnd = sheet.Left + frmPaper.PileShift + sheet.Width;
+    const double figureEnd = frmPaper.Wizard.Left + frmPaper.Wizard.Width;
+    frmPaper.PileShift += right;
+    if (figureEnd > pileEnd) {
+        frmPaper.Wizard.Left += right;
+        frmPaper.Click.Left += right;
+    }
+    frmPaper.Light.Left += right;
+}
+
+void PrintMathLine(std::string_view line, bool placeButton, double closer) {
+    const SurfaceOffsets offsets = closedUp(closer);
+    MathLineRenderer renderer(frmPaper.Paper[ws.CurrentSheet], offsets, black, nextSheet);
     try {
         renderer.line(line);
         ws.LineEndX = renderer.lineEndX();

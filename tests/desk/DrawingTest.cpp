@@ -24,6 +24,7 @@ TEST(TextWidth, KeepsDigitsInColumnsAndSignsAlike) {
             EXPECT_EQ(textWidth(face, digit, 12), textWidth(face, "0", 12)) << digit;
     }
     EXPECT_EQ(textWidth(Face::Halvern, "-", 18), textWidth(Face::Halvern, "+", 18));
+    EXPECT_EQ(textWidth(Face::Note, proseMinus, 10), textWidth(Face::Note, "+", 10));
 }
 
 TEST(TextWidth, CountsACharacterOutsideAsciiOnce) {
@@ -90,7 +91,7 @@ TEST(PlacedGlyphs, MakeOnePieceOfABar) {
 // A shape that sticks out would be drawn over its neighbours; the bar has to reach both of them.
 TEST(Shapes, StayWithinTheirWidth) {
     for (const Face face : {Face::Halvern, Face::Explanation}) {
-        for (const char c : std::string("`\\{*_-")) {
+        for (const char c : std::string("`\\{*_-+=$|~")) {
             const Shape* shape = shapeOf(face, c);
             if (shape == nullptr) continue;
             const double width = textWidth(face, std::string(1, c), 18) / emOf(face, 18) * 1000;

@@ -92,7 +92,7 @@ TEST_F(GuidedInput, AFullLineTakesOnlyBackspace) {
         dropped += Form_KeyPress(i % 2 == 0 ? "1" : "+") == KeyOutcome::Dropped ? 1 : 0;
     }
     EXPECT_GT(dropped, 2000);
-    EXPECT_GE(ws.LineEndX, 730);
+    EXPECT_GE(ws.TypedEndX, 730);
     EXPECT_EQ(ws.CurrentSheet, 0);
     EXPECT_TRUE(platform.dialogs.messages.empty());
     EXPECT_EQ(Form_KeyPress(backspaceKey), KeyOutcome::Accepted);

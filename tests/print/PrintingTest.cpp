@@ -210,12 +210,12 @@ TEST_F(PrintingTest, TheGraphIsAJobOfItsOwn) {
 
 TEST_F(PrintingTest, TheGraphStandsUnderItsProblemAndTheSolvedLine) {
     ws.StepLines[1] = "x+y=3";
-    ws.StepLines[2] = "y=-x+3";
+    ws.StepLines[2] = "y=3-x";
     ws.StepCount = 3;
     frmGraph_Load();
     EXPECT_TRUE(PrintTheGraph());
     const double problem = runOf(job().pages[0], "x+y=3").y;
-    const double line = runOf(job().pages[0], "y=-x+3").y;
+    const double line = runOf(job().pages[0], "y=3-x").y;
     EXPECT_LT(problem, line);
     for (const DrawOperation& operation : job().pages[0]) {
         const auto* stroke = std::get_if<Stroke>(&operation);

@@ -1,6 +1,7 @@
 // One line of markup on a sheet: what is drawn where.
 #include "Drawn.hpp"
 #include "GlyphMetrics.hpp"
+#include "HalvernShapes.hpp"
 #include "PlainPlatform.hpp"
 #include "StepDisplay.hpp"
 #include "Windows.hpp"
@@ -9,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -75,45 +78,38 @@ TEST_F(LineTest, StacksAFractionAndLeavesASlashAlone) {
     const double line = sheetTopY + 2.4 * size;
     EXPECT_DOUBLE_EQ(run("3").y, line - 0.6 * size);
     EXPECT_DOUBLE_EQ(run("4").y, line - 0.6 * size + 1.7 * size);
-    EXPECT_DOUBLE_EQ(run("3").x, indent) << "at once behind the blanks";
-    EXPECT_DOUBLE_EQ(run("4").x, indent);
+    EXPECT_DOUBLE_EQ(bar().x, indent) << "at once behind the blanks";
     EXPECT_DOUBLE_EQ(bar().y, run("3").y) << "drawn at the height of the numerator";
-    EXPECT_NEAR(ws.DenominatorEndX, indent + widthOf("4"), 0.5);
+    EXPECT_NEAR(ws.DenominatorEndX, run("4").x + widthOf("4"), 0.5);
+    EXPECT_NEAR(ws.LineEndX, bar().x + widthOf(bar().text) - 4, 1e-9) << "the pen stays at the end of the bar";
     draw("3/4");
     EXPECT_EQ(run("3/4").text, "3/4");
 }
 
-TEST_F(LineTest, EndsTheBarAtTheFirstPiecePastTheLongerHalf) {
-    draw("#100/2#");
-    const double piece = widthOf("_");
-    const double right = bar().x + piece * static_cast<double>(bar().text.size());
-    EXPECT_DOUBLE_EQ(bar().x, indent);
-    EXPECT_GE(right, indent + widthOf("100") - 1e-9);
-    EXPECT_LT(right, indent + widthOf("100") + piece);
-    EXPECT_NEAR(ws.LineEndX, right - 4, 1e-9) << "the pen stays at the end of the bar";
-}
-
-TEST_F(LineTest, PadsTheShorterHalfByTwoBlanksACharacterBeyondTheFirst) {
-    const double blank = widthOf(" ");
-    struct Case {
-        const char* markup;
-        const char* shorter;
-        int blanks;
-    };
-    for (const Case& c : {Case{"#1/23#", "1", 0},
-                          {"#10/2#", "2", 0},
-                          {"#100/2#", "2", 2},
-                          {"#1/2345#", "1", 4},
-                          {"#1.5/2#", "2", 0},
-                          {"#12.5/2#", "2", 2},
-                          {"#3x^2^/4#", "4", 2},
-                          {"#[x+y]/2#", "2", 0},
-                          {"#-1000/2#", "2", 4},
-                          {"#a b c/2#", "2", 2},
-                          {"#~30~/4#", "4", 0}}) {
+// By what is drawn, so that no sign and no mark moves a half aside or hangs over the bar.
+TEST_F(LineTest, CentresBothHalvesUnderABarThatCoversThem) {
+    for (const auto& [markup, upper, lower] :
+         {std::array{"#7/12#", "7", "12"}, std::array{"#100/2#", "100", "2"}, std::array{"#4x/[-10]#", "4x", "10"},
+          std::array{"#a b c/2#", "a b c", "2"}, std::array{"#1/x^2^#", "1", "x"}}) {
         sheet().cls();
-        draw(c.markup);
-        EXPECT_NEAR(run(c.shorter).x, indent + c.blanks * blank, 1e-9) << c.markup;
+        draw(markup);
+        double left = 1e9;
+        double right = 0;
+        for (const bool top : {true, false}) {
+            left = 1e9;
+            right = 0;
+            for (const Glyphs& glyphs : runs()) {
+                const bool numerator = glyphs.y <= run(upper).y + 1e-9;
+                if (glyphs.text[0] == '_' || numerator != top) continue;
+                left = std::min(left, glyphs.x);
+                right = std::max(right, glyphs.x + textWidth(glyphs.face, glyphs.text, glyphs.size));
+            }
+            const double trimmed = std::string_view(markup).find('-') != std::string_view::npos && !top ? 3 : 0;
+            const double middle = bar().x + widthOf(bar().text) / 2;
+            EXPECT_NEAR((left + trimmed + right) / 2, middle, 0.01) << markup;
+            EXPECT_GT(left + trimmed, bar().x) << markup;
+        }
+        EXPECT_GT(run(lower).y, run(upper).y) << markup;
     }
 }
 
@@ -143,48 +139,44 @@ TEST_F(LineTest, DrawsABarOverAnEmptyDenominator) {
 }
 
 TEST_F(LineTest, RaisesAnExponentWholeAndReturns) {
-    draw("x^-[1]^y");
-    const Glyphs exponent = run("-[1]");
+    draw("x^n[1]^y");
+    const Glyphs exponent = run("n[1]");
     EXPECT_EQ(exponent.size, 8) << "marks inside are drawn as glyphs";
     EXPECT_DOUBLE_EQ(exponent.y, run("x").y - 0.2 * 8);
     EXPECT_EQ(run("y").size, size);
     EXPECT_DOUBLE_EQ(run("y").y, run("x").y);
-    EXPECT_DOUBLE_EQ(run("y").x, indent + widthOf("x") + textWidth(Face::Halvern, "-[1]", 8));
+    EXPECT_DOUBLE_EQ(run("y").x, indent + widthOf("x") + textWidth(Face::Halvern, "n[1]", 8));
 }
 
-TEST_F(LineTest, SetsTheRadicalSignBeforeItsBar) {
-    draw("~25~+1");
-    EXPECT_DOUBLE_EQ(run("25").x, indent + widthOf("  "));
-    EXPECT_DOUBLE_EQ(run("~").x, indent - 2);
-    EXPECT_DOUBLE_EQ(run("~").y, run("25").y - 2);
-    EXPECT_DOUBLE_EQ(bar().x, indent + 0.5 * size);
-    EXPECT_DOUBLE_EQ(bar().y, run("25").y - 1.5 * size);
-    const double barEnd = bar().x + widthOf(bar().text);
-    EXPECT_GE(barEnd, indent + widthOf("  25") - 1e-9);
-    EXPECT_NEAR(run("+1").x, barEnd, 1e-9);
-}
-
-TEST_F(LineTest, BuildsATallRadicalOverAFraction) {
-    draw("~#1/2#~");
-    const double line = sheetTopY + 2.4 * size;
-    EXPECT_DOUBLE_EQ(run("&").x, indent + 2);
-    EXPECT_DOUBLE_EQ(run("&").y, line - 9);
-    EXPECT_DOUBLE_EQ(run("~").y, line - 9 + 16) << "the ordinary sign stands lower than without a fraction";
-    std::vector<double> bars;
-    for (const Glyphs& glyphs : runs()) {
-        if (glyphs.text[0] == '_') bars.push_back(glyphs.y);
+// The sign ends where its bar begins, and an exponent or a fraction stands below the bar.
+TEST_F(LineTest, LetsASignReachUpToTheBarOverItsRadicand) {
+    for (const char* markup : {"~25~+1", "~x^2^~+1", "~#1/2#~+1", "#-b\\~b^2^-4ac~/2a#+1"}) {
+        sheet().cls();
+        draw(markup);
+        const double em = emOf(Face::Halvern, size) / 1000;
+        const bool tall = std::string_view(markup).find("~#") != std::string_view::npos;
+        const Glyphs sign = run(tall ? "&" : "~");
+        double signTop = 0;
+        double signRight = 0;
+        for (const ShapePoint& point : shapeOf(Face::Halvern, tall ? '&' : '~')->front()) {
+            signTop = std::min(signTop, point.y);
+            signRight = std::max(signRight, point.x);
+        }
+        std::vector<Glyphs> bars;
+        for (const Glyphs& glyphs : runs()) {
+            if (glyphs.text[0] == '_') bars.push_back(glyphs);
+        }
+        const Glyphs& over = *std::min_element(bars.begin(), bars.end(), [](auto& a, auto& b) { return a.y < b.y; });
+        EXPECT_NEAR(over.x, sign.x + (signRight - strokeWidth) * em, 0.01) << markup;
+        EXPECT_NEAR(baselineOf(over) + barMiddle * em, baselineOf(sign) + signTop * em, 1) << markup;
+        for (const Glyphs& glyphs : runs()) {
+            const bool radicand = glyphs.text[0] != '_' && glyphs.x > over.x && glyphs.y < sign.y + 1 &&
+                                  glyphs.x < over.x + widthOf(over.text);
+            if (!radicand) continue;
+            EXPECT_GT(baselineOf(glyphs) - 0.704 * emOf(glyphs.face, glyphs.size), baselineOf(over) + 310 * em + 2)
+                << markup << ": " << glyphs.text;
+        }
     }
-    ASSERT_EQ(bars.size(), 2U);
-    EXPECT_DOUBLE_EQ(bars[0], run("1").y);
-    // The bar of the root lies at least a numerator above the bar of the fraction.
-    EXPECT_GT(bars[0] - bars[1], 0.75 * emOf(Face::Halvern, size));
-}
-
-TEST_F(LineTest, DrawsARadicalWithinAFractionHalf) {
-    draw("#-b\\~b^2^-4ac~/2a#");
-    EXPECT_LT(run("-b\\  b").y, run("2a").y);
-    EXPECT_EQ(run("2").size, 8);
-    EXPECT_DOUBLE_EQ(run("~").y, run("-b\\  b").y - 2);
 }
 
 TEST_F(LineTest, KeepsAColourOverConstructsUntilItIsSwitchedOff) {
@@ -193,7 +185,7 @@ TEST_F(LineTest, KeepsAColourOverConstructsUntilItIsSwitchedOff) {
     EXPECT_EQ(run("d").colour, black);
     sheet().cls();
     draw("#[p/q#r~s~");
-    for (const char* text : {"p", "q", "r  s"})
+    for (const char* text : {"p", "q", "r", "s"})
         EXPECT_EQ(run(text).colour, red) << text << ": leaked from the numerator";
     draw("t");
     EXPECT_EQ(run("t").colour, black) << "the next line starts anew";
@@ -236,6 +228,59 @@ TEST_F(LineTest, DrawsAFractionWholeAndBreaksAtTheNextCharacter) {
     draw("#100/200#xy");
     EXPECT_EQ(run("x...").text, "x...");
     EXPECT_DOUBLE_EQ(run("y").x, 67);
+}
+
+TEST_F(LineTest, EndsWithoutDotsWhereNothingFollows) {
+    for (const char* end : {"ab", "ab]", "ab  "}) {
+        sheet().cls();
+        sheet().CurrentX = 750 - indent - widthOf("ab") + 0.01;
+        draw(end);
+        EXPECT_EQ(runs().size(), 1U) << end;
+        EXPECT_DOUBLE_EQ(ws.LineEndY, 2.4 * size) << end;
+    }
+    EXPECT_NEAR(indent, 67, 0.1) << "broken lines go on below the first letter";
+}
+
+// A minus between two bars would read as one long bar.
+TEST_F(LineTest, KeepsThreePixelsFreeBetweenASignAndTheBarsBesideIt) {
+    struct Ground {
+        Face face;
+        double points;
+        const SurfaceOffsets& offsets;
+    };
+    constexpr double freePixels = 4;  // three are whole wherever the edges fall
+    for (const Ground& ground :
+         {Ground{Face::Halvern, 18, worksheetOffsets}, Ground{Face::Explanation, 12, explanationOffsets}}) {
+        for (const char sign : std::string("+-=*$\\{")) {
+            DrawingSurface surface;
+            surface.FontFace = ground.face;
+            surface.FontSize = ground.points;
+            MathLineRenderer(surface, ground.offsets, black, [&](bool) -> DrawingSurface& {
+                return surface;
+            }).line("#1/2#" + std::string(1, sign) + "#3/4#");
+            std::vector<double> edges;  // of the bars and of the sign, from left to right
+            for (const Glyphs& run : runsOf(surface.drawn())) {
+                for (const PlacedGlyph& glyph : placedGlyphs(run)) {
+                    if (glyph.shape == nullptr) continue;
+                    double left = 1e9;
+                    double right = 0;
+                    for (const auto& contour : *glyph.shape) {
+                        for (const ShapePoint& point : contour) {
+                            left = std::min(left, point.x);
+                            right = std::max(right, point.x);
+                        }
+                    }
+                    const double em = emOf(run.face, run.size) / 1000;
+                    edges.push_back(glyph.x + left * glyph.stretch * em);
+                    edges.push_back(glyph.x + right * glyph.stretch * em);
+                }
+            }
+            std::sort(edges.begin(), edges.end());
+            ASSERT_EQ(edges.size(), 6U) << sign;
+            EXPECT_GE(edges[2] - edges[1], freePixels) << sign;
+            EXPECT_GE(edges[4] - edges[3], freePixels) << sign;
+        }
+    }
 }
 
 TEST_F(LineTest, BreaksAVeryLongLineAgainAndAgain) {

@@ -160,5 +160,45 @@ TEST_F(StepDisplayTest, FillsTenSheetsAndSaysOnceThatThereAreNoMore) {
     EXPECT_EQ(ws.ShownStep, 200);
 }
 
+// Whatever the length of the solution, and whether it is shown at once or step by step.
+TEST_F(StepDisplayTest, LeavesNoLastLineAloneOnASheet) {
+    for (const bool atOnce : {true, false}) {
+        for (int count = 2; count <= 60; ++count) {
+            ResetWindows();
+            ws = Workspace();
+            frmPaper.Paper[0].Left = 60;
+            frmPaper.Paper[0].CurrentY = sheetTopY;
+            frmPaper.Wizard.Left = 880;
+            frmPaper.Wizard.Width = PaperWindow::fullWizardWidth;
+            PrintMathLine("restated", false);
+            std::vector<std::string> lines{"restated"};
+            for (int i = 0; i < count; ++i) lines.push_back(i % 3 == 1 ? "#1/2#" + std::string(1, 'a') : "b");
+            solution(lines);
+            ws.ShownStep = atOnce ? 0 : 2;
+            frmMain.mnuShowStep.Checked = !atOnce;
+            ShowSteps();
+            while (frmPaper.Paper[ws.CurrentSheet].blinker.Visible) blinker_Click();
+            int shown = 0;
+            for (int sheet = 0; sheet <= ws.CurrentSheet; ++sheet) {
+                int onSheet = 0;
+                double above = 0;
+                for (const Glyphs& run : runsOf(frmPaper.Paper[sheet].drawn())) {
+                    if (run.text != "a" && run.text != "b") continue;
+                    ++onSheet;
+                    EXPECT_GE(run.y - above, 56) << count << ": fractions would meet";
+                    above = run.y;
+                }
+                EXPECT_GT(onSheet, 1) << count << " lines, sheet " << sheet;
+                shown += onSheet;
+            }
+            EXPECT_EQ(shown, count);
+            const Sheet& top = frmPaper.Paper[ws.CurrentSheet];
+            EXPECT_GE(frmPaper.Wizard.Left, top.Left + top.Width) << "the assistant stands beside the topmost sheet";
+        }
+    }
+    pushBesidePile(-frmPaper.PileShift);
+    EXPECT_EQ(frmPaper.Wizard.Left, 880);
+}
+
 }  // namespace
 }  // namespace ordwise

@@ -118,7 +118,8 @@ struct DisplayState {
     Int16 CurrentSheet;      // the sheet being written, 0 to 9
     Int16 ShownStep;         // the step that the explanation command refers to
     std::string LineInView;  // the line of the solution drawn last, "" while none of it is
-    double LineEndX = 0;     // end of the last line drawn; stops typing at 730
+    double LineEndX = 0;     // end of the last line drawn
+    double TypedEndX = 0;    // end of the typed line by the measure of what may be typed; stops it at 730
     double LineEndY = 0;
     Int16 DenominatorEndX;  // end of the last denominator drawn
     bool LineEndsInFraction = false;
