@@ -31,7 +31,8 @@ struct SurfaceOffsets {
     Distance belowFraction;      // added behind a line that holds a fraction
     double breakAt = 0;          // a plain character that ends beyond it breaks the line
     double breakX = 0;           // where the rest of a broken line begins
-    double breakDown = 0;        // and how far below
+    Distance breakDown;          // and how far below
+    Distance breakDownFraction;  // the same in a line with fractions
     double pageFull = 0;         // a pen below it needs the next page
     bool pageTestFirst = false;  // the page test comes before each plain character
     double exponentSize = 0;     // points
@@ -100,6 +101,7 @@ private:
     Colour normal_;
     NextPage nextPage_;
     bool begun_ = false;
+    bool hasFractions_ = false;
     bool overfull_ = false;  // a character has passed breakAt; what comes next breaks the line
     bool inRadical_ = false;
     double baseline_ = 0;

@@ -57,6 +57,7 @@ void MathLineRenderer::line(std::string_view s) {
     if (!offsets_.pageTestFirst && surface_->CurrentY > offsets_.pageFull) turnPage(false);
     if (s.size() > longestLine) raise(FaultNumber::Subscript);
     begin(s.find('/') != std::string_view::npos);
+    hasFractions_ = s.find('#') != std::string_view::npos;
     for (std::size_t i = 0; i < s.size();) {
         const char c = s[i];
         if (opensConstruct(c)) {
@@ -76,7 +77,7 @@ void MathLineRenderer::line(std::string_view s) {
         }
     }
     end();
-    if (s.find('#') != std::string_view::npos) surface_->CurrentY += offsets_.belowFraction.at(surface_->FontSize);
+    if (hasFractions_) surface_->CurrentY += offsets_.belowFraction.at(surface_->FontSize);
 }
 
 void MathLineRenderer::newLine() {
@@ -111,7 +112,7 @@ void MathLineRenderer::breakLine() {
     overfull_ = false;
     surface_->print("...");
     surface_->CurrentX = offsets_.breakX;
-    baseline_ += offsets_.breakDown;
+    baseline_ += (hasFractions_ ? offsets_.breakDownFraction : offsets_.breakDown).at(surface_->FontSize);
     if (!offsets_.pageTestFirst && surface_->CurrentY > offsets_.pageFull) {
         turnPage(true);
         surface_->CurrentX = offsets_.breakX;

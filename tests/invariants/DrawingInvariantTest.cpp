@@ -5,6 +5,7 @@
 #include "FreshProgram.hpp"
 #include "HalvernShapes.hpp"
 #include "PlainPlatform.hpp"
+#include "PrintingPages.hpp"
 #include "Sanitized.hpp"
 #include "Solving.hpp"
 #include "Workspace.hpp"
@@ -101,6 +102,7 @@ protected:
         const std::vector<Ink> ink = inkOf(frmExplain.drawn());
         EXPECT_EQ(outside(ink), "") << note;
         EXPECT_EQ(overlap(ink), "") << note;
+        expectClearOnPaper(note, Face::Note, 10);
     }
 
     static void expectClear(const std::string& line) {
@@ -109,6 +111,16 @@ protected:
         sheet.cls();
         PrintMathLine(line, false);
         EXPECT_EQ(overlap(inkOf(sheet.drawn())), "") << line;
+        expectClearOnPaper(line, Face::Halvern, 12);
+    }
+
+    static void expectClearOnPaper(const std::string& line, Face face, double points) {
+        PageSurface page(PaperSize{});
+        page.CurrentY = 60;
+        page.FontFace = face;
+        page.FontSize = points;
+        PrintLine(line, page, face == Face::Note);
+        for (const DisplayList& drawn : page.finished()) EXPECT_EQ(overlap(inkOf(drawn)), "") << "printed: " << line;
     }
 
     PlainPlatform world;

@@ -1,5 +1,6 @@
 #include "ArithmeticSolvers.hpp"
 
+#include "Drawn.hpp"
 #include "NumberText.hpp"
 #include "SolutionOf.hpp"
 
@@ -50,6 +51,7 @@ struct NumberLine {
 
 NumberLine numberLineOf(double a, double b) {
     ResetWindows();
+    ws.LineEndX = 0;
     DrawNumberLine(a, b);
     NumberLine drawn;
     for (const DrawOperation& operation : frmPaper.Paper[0].drawn()) {
@@ -74,6 +76,16 @@ TEST(NumberLine, ShowsOrderAndSideOfZero) {
     EXPECT_EQ(numberLineOf(6, 6), (NumberLine{{"0@345", "6@451"}, both}));
     EXPECT_EQ(numberLineOf(-6, -6), (NumberLine{{"0@345", "-6@244"}, both}));
     EXPECT_EQ(numberLineOf(0, 0), (NumberLine{{"0@345"}, both}));
+}
+
+// e.g. 123456 and 123578, which would read as one number
+TEST(NumberLine, KeepsLongLabelsApartAndClearOfTheProblem) {
+    ResetWindows();
+    ws.LineEndX = 200;
+    DrawNumberLine(123456, 123578);
+    EXPECT_EQ(runOf(frmPaper.Paper[0].drawn(), "123456").y, 158);
+    EXPECT_EQ(runOf(frmPaper.Paper[0].drawn(), "123578").y, 180);
+    EXPECT_EQ(std::get<Stroke>(frmPaper.Paper[0].drawn().front()).x1, 224);
 }
 
 TEST(NumberLine, LeavesThePenBelowItself) {
