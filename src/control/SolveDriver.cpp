@@ -28,7 +28,7 @@ void beginRun() {
     frmMain.MousePointer = hourglass;
     enablePrintAndSave();
     frmPaper.Light.Image = "light1";
-    frmPaper.Light.ToolTip = "light1";
+    frmPaper.Light.ToolTip = "Click the red light for incorrect input details.";
     ws.InputOpen = false;
     frmPaper.Pencil.Image = "pencil1";
     platform.windows->unload("frmGraph");

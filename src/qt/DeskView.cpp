@@ -240,13 +240,18 @@ void DeskView::runTimers() {
 
 // Tells a screen reader what changed on the paper.
 void DeskView::announce() {
-    const QString line = frmPaper.Loaded ? qstringOf(spokenLineInView()) : QString();
-    if (line == announced_) return;
-    announced_ = line;
-    setAccessibleName(frmPaper.Loaded ? QStringLiteral("Worksheet") : QStringLiteral("Empty desk"));
+    const QString name = qstringOf(spokenDeskName());
+    const QString line = qstringOf(spokenDesk());
+    const auto tell = [this](QAccessible::Event what) {
+        QAccessibleEvent event(this, what);
+        QAccessible::updateAccessibility(&event);
+    };
+    const bool renamed = name != accessibleName();
+    const bool changed = line != accessibleDescription();
+    setAccessibleName(name);
     setAccessibleDescription(line);
-    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&event);
+    if (renamed) tell(QAccessible::NameChanged);
+    if (changed) tell(QAccessible::DescriptionChanged);
 }
 
 void DeskView::takeKeys() {

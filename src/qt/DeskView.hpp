@@ -91,7 +91,6 @@ private:
     std::array<int, PaperWindow::lastSheet + 1> stacked_{};  // sheets from the lowest to the foremost
     std::array<QTimer, 5> timers_;
     WritingPause writing_;
-    QString announced_;
     bool dragged_ = false;
     QPoint menuPlace_;
 };

@@ -90,6 +90,7 @@ void DeskWindows::showBeside(const Row& row) {
         widget->activateWindow();
     } else if (atFrame) {
         frame_.activateWindow();  // a window manager may have thought otherwise
+        widget->raise();          // and brings what it activates to the front
     }
 }
 

@@ -8,6 +8,7 @@ namespace {
 
 const QString placeKey = QStringLiteral("Frame/place");
 const QString steadyKey = QStringLiteral("Frame/steadySignals");
+const QString wordsKey = QStringLiteral("Frame/wordsOnButtons");
 
 }  // namespace
 
@@ -24,14 +25,30 @@ void FrameMemory::keepPlace(const QMainWindow& frame) const {
     if (!file_.isEmpty()) QSettings(file_, QSettings::IniFormat).setValue(placeKey, frame.saveGeometry());
 }
 
-std::optional<bool> FrameMemory::steadySignals() const {
+std::optional<bool> FrameMemory::choice(const QString& key) const {
     if (file_.isEmpty()) return std::nullopt;
-    const QVariant kept = QSettings(file_, QSettings::IniFormat).value(steadyKey);
+    const QVariant kept = QSettings(file_, QSettings::IniFormat).value(key);
     return kept.isValid() ? std::optional<bool>(kept.toBool()) : std::nullopt;
 }
 
+void FrameMemory::keepChoice(const QString& key, bool on) const {
+    if (!file_.isEmpty()) QSettings(file_, QSettings::IniFormat).setValue(key, on);
+}
+
+std::optional<bool> FrameMemory::steadySignals() const {
+    return choice(steadyKey);
+}
+
 void FrameMemory::keepSteadySignals(bool steady) const {
-    if (!file_.isEmpty()) QSettings(file_, QSettings::IniFormat).setValue(steadyKey, steady);
+    keepChoice(steadyKey, steady);
+}
+
+std::optional<bool> FrameMemory::wordsOnButtons() const {
+    return choice(wordsKey);
+}
+
+void FrameMemory::keepWordsOnButtons(bool words) const {
+    keepChoice(wordsKey, words);
 }
 
 }  // namespace ordwise

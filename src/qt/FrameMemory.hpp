@@ -1,5 +1,5 @@
 // What the frame remembers by itself from one start to the next: its place on the screen and whether
-// its signals stand still. It lies beside the recent problems; where there is no place for it, the
+// what the View menu has switched. It lies beside the recent problems; where there is no place for it, the
 // frame starts as a new one.
 #pragma once
 
@@ -23,8 +23,13 @@ public:
     // What the user chose, if he ever did.
     [[nodiscard]] std::optional<bool> steadySignals() const;
     void keepSteadySignals(bool steady) const;
+    [[nodiscard]] std::optional<bool> wordsOnButtons() const;
+    void keepWordsOnButtons(bool words) const;
 
 private:
+    [[nodiscard]] std::optional<bool> choice(const QString& key) const;
+    void keepChoice(const QString& key, bool on) const;
+
     QString file_;
 };
 

@@ -111,4 +111,17 @@ std::vector<ToolRow> toolbarRows() {
             {MainWindow::buttonWeb, mnuHomePage_Click}};
 }
 
+const Control* commandOfButton(int button) {
+    static const std::vector<MenuTable> menus = frameMenus();
+    for (const ToolRow& tool : toolbarRows()) {
+        if (tool.button != button) continue;
+        for (const MenuTable& menu : menus) {
+            for (const MenuRow& row : menu.rows) {
+                if (row.routine == tool.routine) return row.control;
+            }
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace ordwise

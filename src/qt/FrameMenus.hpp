@@ -41,5 +41,7 @@ struct ToolRow {
 };
 
 [[nodiscard]] std::vector<ToolRow> toolbarRows();
+// The menu entry that runs the same routine as a button of the toolbar, null if none does.
+[[nodiscard]] const Control* commandOfButton(int button);
 
 }  // namespace ordwise

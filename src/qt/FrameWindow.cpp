@@ -20,6 +20,7 @@
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -38,6 +39,19 @@ QString titleOfDesk() {
     if (frmPaper.Loaded) parts << qstringOf(ws.TopicName);
     parts << qstringOf(frmMain.Caption);
     return parts.join(QStringLiteral(" - "));
+}
+
+// From the largest to the smallest.
+struct ToolLook {
+    bool words;
+    int iconSide;
+};
+constexpr ToolLook toolLooks[] = {{true, 32}, {false, 32}, {false, 22}};
+
+// e.g. ("Solve!", F5) -> "Solve! (F5)"
+QString withShortcut(const QString& tip, const QAction* command) {
+    const QString keys = command == nullptr ? QString() : command->shortcut().toString(QKeySequence::NativeText);
+    return keys.isEmpty() ? tip : tip + QStringLiteral(" (") + keys + QLatin1Char(')');
 }
 
 // The one file that is dragged, "" for anything else.
@@ -156,6 +170,14 @@ void FrameWindow::addViewMenu() {
         desk_->setSteady(on);
         memory_.keepSteadySignals(on);
     });
+    words_ = view->addAction(QStringLiteral("&Words on Buttons"));
+    words_->setCheckable(true);
+    words_->setChecked(memory_.wordsOnButtons().value_or(true));
+    words_->setObjectName(QStringLiteral("wordsOnButtons"));
+    connect(words_, &QAction::toggled, this, [this](bool on) {
+        memory_.keepWordsOnButtons(on);
+        fitToolbar();
+    });
 }
 
 void FrameWindow::zoomBy(double factor) {
@@ -168,7 +190,6 @@ void FrameWindow::addToolbar() {
     toolbar_->setObjectName(QStringLiteral("Toolbar1"));
     toolbar_->setMovable(false);
     toolbar_->setContextMenuPolicy(Qt::PreventContextMenu);  // it would offer to hide it for good
-    toolbar_->setIconSize(QSize(32, 32));
     int last = 0;
     for (const ToolRow& row : toolbarRows()) {
         if (last != 0 && row.button > last + 1) toolbar_->addSeparator();
@@ -176,10 +197,32 @@ void FrameWindow::addToolbar() {
         const ToolbarButton& button = frmMain.Toolbar1[row.button];
         QAction* action = toolbar_->addAction(artIcon(button.Image), qstringOf(button.ToolTip));
         action->setObjectName(qstringOf(button.Key));
+        action->setIconText(qstringOf(button.Caption));
         action->setProperty("image", qstringOf(button.Image));
         connect(action, &QAction::triggered, this, [this, row] { stage_.perform(row.routine); });
         toolActions_.emplace_back(row.button, action);
     }
+    for (std::size_t look = 0; look < std::size(toolLooks); ++look) {
+        wearLook(look);
+        lookWidths_[look] = toolbar_->sizeHint().width();
+    }
+}
+
+void FrameWindow::wearLook(std::size_t look) {
+    toolbar_->setToolButtonStyle(toolLooks[look].words ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+    toolbar_->setIconSize(QSize(toolLooks[look].iconSide, toolLooks[look].iconSide));
+}
+
+// Every button in view: words where they are wanted and there is room for them.
+void FrameWindow::fitToolbar() {
+    std::size_t look = words_->isChecked() ? 0 : 1;
+    while (look + 1 < std::size(toolLooks) && lookWidths_[look] > width()) ++look;
+    wearLook(look);
+}
+
+void FrameWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    fitToolbar();
 }
 
 QAction* FrameWindow::actionOf(const Control& menu) const {
@@ -196,6 +239,12 @@ QAction* FrameWindow::toolbarAction(int button) const {
     return nullptr;
 }
 
+// The menu command that does what the button does.
+QAction* FrameWindow::commandOf(int button) const {
+    const Control* control = commandOfButton(button);
+    return control == nullptr ? nullptr : actionOf(*control);
+}
+
 void FrameWindow::showChanges() {
     setWindowTitle(titleOfDesk());
     for (const auto& [control, action] : menuActions_) {
@@ -208,7 +257,7 @@ void FrameWindow::showChanges() {
     for (const auto& [index, action] : toolActions_) {
         const ToolbarButton& button = frmMain.Toolbar1[index];
         action->setEnabled(button.Enabled);
-        action->setToolTip(qstringOf(button.ToolTip));
+        action->setToolTip(withShortcut(qstringOf(button.ToolTip), commandOf(index)));
         if (action->property("image").toString() == qstringOf(button.Image)) continue;
         action->setProperty("image", qstringOf(button.Image));
         action->setIcon(artIcon(button.Image));
@@ -257,6 +306,7 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void FrameWindow::showFreshSheets() {
     sheetInView_ = 0;
+    status_->startAfresh();
     stage_.show();
     desk_->takeKeys();
 }

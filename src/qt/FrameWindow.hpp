@@ -12,6 +12,7 @@
 
 #include <QMainWindow>
 
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -49,6 +50,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -58,6 +60,9 @@ private:
     void addMenuRow(QMenu& menu, const MenuRow& row);
     void addViewMenu();
     void addToolbar();
+    void wearLook(std::size_t look);
+    void fitToolbar();
+    [[nodiscard]] QAction* commandOf(int button) const;
     void zoomBy(double factor);
     void followLine();
 
@@ -77,6 +82,8 @@ private:
     QScrollArea* scroll_;
     StatusLine* status_;
     QToolBar* toolbar_ = nullptr;
+    QAction* words_ = nullptr;
+    std::array<int, 3> lookWidths_{};  // of the toolbar, from the largest look to the smallest
     WelcomeCard* welcome_ = nullptr;
     std::vector<std::pair<const Control*, QAction*>> menuActions_;
     std::vector<std::pair<int, QAction*>> toolActions_;

@@ -1,5 +1,6 @@
 // The sentence in the status bar. A refusal stands out by a picture and bold letters, not by colour
-// alone, and is announced; a sentence that is too long ends in dots and is whole in its tool tip.
+// alone, and is announced. A long sentence takes up to three rows; it is
+// whole in its tool tip.
 #pragma once
 
 #include <QWidget>
@@ -11,6 +12,9 @@ public:
     explicit StatusLine(QWidget* parent);
 
     void showSentence(const QString& sentence, bool refusal);
+    // The line takes as many rows as its longest sentence has needed since then or since it was resized:
+    // what stands above it must not move with every refused key.
+    void startAfresh();
     [[nodiscard]] const QString& sentence() const { return sentence_; }
     [[nodiscard]] bool isRefusal() const { return refusal_; }
 
@@ -18,10 +22,16 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    [[nodiscard]] QFont sentenceFont() const;
+    [[nodiscard]] QRect room() const;
+    void makeRoom();
+
     QString sentence_;
     bool refusal_ = false;
+    int rows_ = 1;
 };
 
 }  // namespace ordwise

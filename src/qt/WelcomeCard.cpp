@@ -1,7 +1,7 @@
 #include "WelcomeCard.hpp"
 
 #include "Art.hpp"
-#include "Windows.hpp"
+#include "DeskEvents.hpp"
 
 #include <QAction>
 #include <QCommandLinkButton>
@@ -52,8 +52,8 @@ void WelcomeCard::addWay(QAction* action, const char* image, const char* descrip
 }
 
 void WelcomeCard::showChanges() {
-    if (isHidden() == frmPaper.Loaded) return;
-    setVisible(!frmPaper.Loaded);
+    if (isHidden() != waysToBeginAreOffered()) return;
+    setVisible(waysToBeginAreOffered());
     centre();
 }
 

@@ -2,6 +2,7 @@
 
 #include "Platform.hpp"
 #include "SpokenForm.hpp"
+#include "StartWindows.hpp"
 #include "Windows.hpp"
 #include "WorksheetBoxes.hpp"
 #include "Workspace.hpp"
@@ -55,6 +56,7 @@ std::string statusLine() {
     if (!frmMain.StatusText.empty()) return frmMain.StatusText;
     if (!frmPaper.Loaded) return "Press Ctrl+N or choose New Problem to begin.";
     if (lightIsRed()) return ws.ExplainOverrideText;
+    if (ws.InputOpen && frmMain.mnuSolve.Enabled) return "Ready to solve: press Enter or F5, or go on typing.";
     if (ws.InputOpen) return asTyped(ws.HintText);
     if (frmPaper.Paper[ws.CurrentSheet].blinker.Visible) return "Press Enter or click Next Step to go on.";
     return "Erase the problem to enter another one, or choose New Problem.";
@@ -68,6 +70,20 @@ std::string spokenLineInView() {
     const auto letters = lettersOf(ws.ProblemType);
     if (ws.InputOpen) return spokenLine(ImplodeCanon(), letters);
     return spokenLine(ws.LineInView.empty() ? ws.StepLines[1] : ws.LineInView, letters);
+}
+
+bool waysToBeginAreOffered() {
+    return !frmPaper.Loaded && !frmLogo.Loaded;
+}
+
+std::string spokenDeskName() {
+    return frmPaper.Loaded ? "Worksheet: " + ws.TopicName : "Empty desk";
+}
+
+std::string spokenDesk() {
+    if (!frmPaper.Loaded) return "";
+    const std::string line = spokenLineInView();
+    return line.empty() ? asTyped(ws.HintText) : line;
 }
 
 }  // namespace ordwise

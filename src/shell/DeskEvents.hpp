@@ -23,4 +23,12 @@ void Box_KeyPress(int number, std::string_view key);
 // The mathematics in view in words: the line drawn last, or what has been typed so far.
 [[nodiscard]] std::string spokenLineInView();
 
+// The empty desk offers the ways to begin once the splash has gone.
+[[nodiscard]] bool waysToBeginAreOffered();
+
+// What a screen reader says of the desk: which worksheet it is, and the line in view or, before there
+// is one, how to type the problem.
+[[nodiscard]] std::string spokenDeskName();
+[[nodiscard]] std::string spokenDesk();
+
 }  // namespace ordwise

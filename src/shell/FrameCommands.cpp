@@ -6,6 +6,7 @@
 #include "GuidedInput.hpp"
 #include "Platform.hpp"
 #include "RecentProblems.hpp"
+#include "SavedProblems.hpp"
 #include "SolveDriver.hpp"
 #include "WebPages.hpp"
 #include "Windows.hpp"
@@ -36,8 +37,11 @@ void mnuSolve_Click() {
     compute_Click();
 }
 
+// One example after the other must not push out what the student has typed.
 void mnuExample_Click() {
+    if (textOfProblem(problemOnDesk()) != frmMain.DrawnExample) keepLastProblem();
     example_Click();
+    frmMain.DrawnExample = textOfProblem(problemOnDesk());
 }
 
 void mnuErase_Click() {

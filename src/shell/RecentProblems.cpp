@@ -80,7 +80,7 @@ void openProblemFile(const std::string& path) {
         openProblemText(path, *text);
         return;
     }
-    frmMain.StatusText = "\"" + path + "\" can't be read.";
+    frmMain.StatusText = whyUnread(path);
     forget(path);
 }
 

@@ -156,6 +156,12 @@ std::vector<RefusedKey> openProblem(const SavedProblem& problem) {
     return refused;
 }
 
+std::string whyUnread(const std::string& path) {
+    std::error_code trouble;
+    const bool there = std::filesystem::exists(path, trouble) || trouble;
+    return there ? "\"" + path + "\" can't be read." : "There is no file \"" + path + "\".";
+}
+
 void openProblemText(const std::string& path, std::string_view text) {
     keepLastProblem();
     try {
@@ -201,7 +207,12 @@ void mnuSave_Click() {
 void mnuLoad_Click() {
     std::string path;
     const std::string text = LoadDialog(path);
-    if (!path.empty()) openProblemText(path, text);
+    if (path.empty()) return;
+    if (text.empty() && !platform.files->read(path)) {
+        frmMain.StatusText = whyUnread(path);
+    } else {
+        openProblemText(path, text);
+    }
 }
 
 }  // namespace ordwise

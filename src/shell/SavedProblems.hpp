@@ -41,6 +41,9 @@ struct SavedProblem {
 // The first key of the typed text that the paper would not take, tried without touching the desk.
 [[nodiscard]] std::optional<RefusedKey> refusedKeyOf(const SavedProblem& problem);
 
+// The sentence for a file that could not be read: whether it is missing.
+[[nodiscard]] std::string whyUnread(const std::string& path);
+
 // Puts the problem on a fresh worksheet and solves it. Returns the keys refused, one at most.
 std::vector<RefusedKey> openProblem(const SavedProblem& problem);
 

@@ -20,6 +20,7 @@
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolBar>
 
 #include <algorithm>
 #include <array>
@@ -68,6 +69,41 @@ private:
 
 constexpr const char* ratio = "Ratios BB 6:8 BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 78\r\n";
 
+TEST_F(Frame, HasWordsOnItsButtonsAsFarAsTheyFitAndShortcutsInTheirTips) {
+    auto& bar = child<QToolBar>("Toolbar1");
+    const QAction& solve = *frame->toolbarAction(MainWindow::buttonSolve);
+    EXPECT_EQ(solve.toolTip(), QStringLiteral("Solve! (F5)"));
+    const auto allInView = [&bar] {
+        for (QAction* action : bar.actions()) {
+            if (action->isSeparator()) continue;
+            if (!bar.rect().contains(bar.widgetForAction(action)->geometry())) return false;
+        }
+        return true;
+    };
+    EXPECT_EQ(bar.toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
+    EXPECT_TRUE(allInView());
+    frame->resize(500, 400);
+    QTest::qWait(1);
+    EXPECT_EQ(bar.toolButtonStyle(), Qt::ToolButtonIconOnly);
+    EXPECT_TRUE(allInView());
+    frame->resize(1120, 930);
+    child<QAction>("wordsOnButtons").trigger();
+    EXPECT_EQ(bar.toolButtonStyle(), Qt::ToolButtonIconOnly);
+}
+
+TEST_F(Frame, TheStatusLineShowsTheLongestHintWhole) {
+    frame->resize(1024, 600);
+    choose(QStringLiteral("Graphing A Line Using"));
+    QTest::qWait(1);
+    const StatusLine& line = frame->statusLine();
+    const auto isWhole = [&line] {
+        const QRect room(0, 0, line.width() - 12, 1000);
+        return line.height() >= line.fontMetrics().boundingRect(room, Qt::TextWordWrap, line.sentence()).height();
+    };
+    EXPECT_TRUE(QTest::qWaitFor(isWhole, 1000))
+        << line.height() << " " << line.width() << " " << line.sizeHint().height();
+}
+
 TEST_F(Frame, OpensAFileThatIsDroppedOnItAndOffersItAgain) {
     mnuClearRecent_Click();
     EXPECT_EQ(recentEntries(), QStringList{QStringLiteral("No Saved Problems Yet")});
@@ -87,7 +123,7 @@ TEST_F(Frame, OpensAFileThatIsDroppedOnItAndOffersItAgain) {
 
     EXPECT_TRUE(QFile::remove(path));
     child<QMenu>("mnuRecent").actions().constFirst()->trigger();
-    EXPECT_TRUE(frame->statusLine().sentence().endsWith(QStringLiteral("my & yours.hvx\" can't be read.")));
+    EXPECT_TRUE(frame->statusLine().sentence().endsWith(QStringLiteral("my & yours.hvx\".")));
     EXPECT_EQ(ws.TopicName, "Ratios");
     EXPECT_EQ(recentEntries().constFirst().toStdString(), "&Last Problem (Not Saved)");
     drop(fileWith("list.txt", "milk, bread"));

@@ -78,8 +78,39 @@ TEST_F(DeskEvents, the_status_line_says_what_can_be_done_next) {
     open("Fraction Arithmetic");
     EXPECT_TRUE(statusLine().ends_with("Example: 1/2 + 3/5")) << statusLine();
     typeKeys("1/2+1/3");
+    EXPECT_NE(statusLine().find("press Enter or F5"), std::string::npos) << statusLine();
     mnuSolve_Click();
     EXPECT_NE(statusLine().find("Next Step"), std::string::npos);
+}
+
+TEST_F(DeskEvents, the_light_tells_what_it_shows_and_otherwise_what_it_is_for) {
+    constexpr const char* purpose = "Click the red light for incorrect input details.";
+    open("Arithmetic");
+    EXPECT_EQ(frmPaper.Light.ToolTip, purpose);
+    typeKeys("1+");
+    EXPECT_EQ(frmPaper.Light.ToolTip, "Correct Input.");
+    typeKeys("*");
+    EXPECT_EQ(frmPaper.Light.ToolTip, "Incorrect input.");
+    typeKeys("2");
+    mnuSolve_Click();
+    EXPECT_EQ(frmPaper.Light.ToolTip, purpose);
+    typeKeys("1");
+    mnuErase_Click();
+    EXPECT_EQ(frmPaper.Light.ToolTip, purpose);
+}
+
+TEST_F(DeskEvents, the_ways_to_begin_wait_for_the_splash_and_a_new_topic_is_announced) {
+    loadWindow("frmLogo");
+    EXPECT_FALSE(waysToBeginAreOffered());
+    unloadWindow("frmLogo");
+    EXPECT_TRUE(waysToBeginAreOffered());
+    EXPECT_EQ(spokenDeskName(), "Empty desk");
+    open("Solving Equations");
+    EXPECT_FALSE(waysToBeginAreOffered());
+    EXPECT_EQ(spokenDeskName(), "Worksheet: Solving Equations");
+    EXPECT_NE(spokenDesk().find("Example"), std::string::npos) << "before a key, how to type: " << spokenDesk();
+    typeKeys("x");
+    EXPECT_EQ(spokenDesk(), "x");
 }
 
 TEST_F(DeskEvents, what_is_typed_and_what_is_shown_can_be_heard) {

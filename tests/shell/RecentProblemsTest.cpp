@@ -66,7 +66,7 @@ TEST_F(RecentProblems, ThatAreGoneAreNamedAndLeaveTheList) {
     openProblemFile("/a.hvx");
     outside.files.contents.erase("/a.hvx");
     openProblemFile("/a.hvx");
-    EXPECT_EQ(frmMain.StatusText, "\"/a.hvx\" can't be read.");
+    EXPECT_EQ(frmMain.StatusText, "There is no file \"/a.hvx\".");
     EXPECT_TRUE(frmMain.RecentProblems.empty());
     EXPECT_EQ(ws.TopicName, "Ratios") << "the desk stays as it was";
 
@@ -109,6 +109,12 @@ TEST_F(RecentProblems, KeepWhatWasNotSaved) {
     EXPECT_EQ(problemOnDesk().typed, "2+3*4") << "a saved problem does not take its place";
     mnuClearRecent_Click();
     EXPECT_EQ(lastProblemFile(), "");
+}
+
+TEST_F(RecentProblems, KeepWhatWasTypedBeforeTheExamples) {
+    enter("Ratios", "3:4");
+    for (int i = 0; i < 3; ++i) mnuExample_Click();
+    EXPECT_EQ(outside.files.contents["/state/last-problem.hvx"], ratio);
 }
 
 TEST_F(RecentProblems, AskForAFileAfterTheOneOfTheCommandLine) {

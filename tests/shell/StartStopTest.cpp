@@ -104,7 +104,7 @@ TEST_F(StartStop, OpensTheProblemOfTheCommandLine) {
     startFreshProgram();
     startUp("/tmp/none.hvx");
     EXPECT_FALSE(frmPaper.Loaded);
-    EXPECT_EQ(frmMain.StatusText, "\"none.hvx\" holds no problem of Ordwise.");
+    EXPECT_EQ(frmMain.StatusText, "There is no file \"/tmp/none.hvx\".");
 }
 
 TEST_F(StartStop, OptionsShowTheSettingsAndTakeThemOver) {
