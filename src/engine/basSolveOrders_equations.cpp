@@ -216,6 +216,7 @@ bool solveForOther(const std::string& variable, const std::string& other) {
 bool onlyReordered() {
     std::string before = outlineOf(ws.LastLine);
     std::string now = outlineOf(CanonicalLine());
+    if (before == now) return false;
     std::sort(before.begin(), before.end());
     std::sort(now.begin(), now.end());
     return before == now;
