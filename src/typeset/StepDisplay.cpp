@@ -51,7 +51,10 @@ bool mayTurnSheet(int first, int last) {
     constexpr double rowHeight = 68;
     constexpr std::size_t surelyOneRow = 35;
     double y = currentSheet().CurrentY;
-    for (int i = first; i <= last; ++i) y += rowHeight * static_cast<double>(1 + ws.StepLines[i].size() / surelyOneRow);
+    for (int i = first; i <= last; ++i) {
+        const std::size_t rows = 1 + ws.StepLines[i].size() / surelyOneRow;
+        y += rowHeight * static_cast<double>(rows);
+    }
     return y > worksheetOffsets.pageFull;
 }
 
