@@ -20,13 +20,13 @@ _ordwise_cli() {
         [ "$COMP_CWORD" -eq 1 ] && command=
         mapfile -t COMPREPLY < <(compgen -W "$(_ordwise_cli_options ${command:+"$command"})" -- "$word")
     elif [ "$COMP_CWORD" -eq 1 ]; then
-        mapfile -t COMPREPLY < <(compgen -W $'topics\nkeys\nsolve\nload\nexample\ntest\nbatch' -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W $'topics\nkeys\nsolve\ncheck\nload\nexample\ntest\nbatch' -- "$word")
     elif [[ $command == load || ${COMP_WORDS[COMP_CWORD - 1]} == --save ]]; then
         mapfile -t COMPREPLY < <(compgen -f -- "$word")
     elif [ "$COMP_CWORD" -eq 2 ]; then
         case $command in
             # As typed so far, without the backslashes and quotes of the shell.
-            keys | solve | example) mapfile -t COMPREPLY < <(_ordwise_cli_topics "$(printf '%s' "$word" | tr -d "\\\\\"'")") ;;
+            keys | solve | check | example) mapfile -t COMPREPLY < <(_ordwise_cli_topics "$(printf '%s' "$word" | tr -d "\\\\\"'")") ;;
         esac
     fi
 }

@@ -66,8 +66,7 @@ void eachMember(const nlohmann::json& request, const char* name,
     for (const auto& [key, value] : object->items()) take(key, plainText(value, key));
 }
 
-SolveRequest solveRequest(const nlohmann::json& request) {
-    SolveRequest result;
+void readProblem(const nlohmann::json& request, SolveRequest& result) {
     result.topic = textMember(request, "topic", true);
     result.problem = textMember(request, "problem");
     result.dropRefused = flagMember(request, "dropRefused");
@@ -81,6 +80,19 @@ SolveRequest solveRequest(const nlohmann::json& request) {
                [&](const std::string& key, const std::string& value) { result.settings[key] = value; });
     result.answers = listMember(request, "answers");
     result.forms = listMember(request, "forms");
+}
+
+SolveRequest solveRequest(const nlohmann::json& request) {
+    SolveRequest result;
+    readProblem(request, result);
+    return result;
+}
+
+CheckRequest checkRequest(const nlohmann::json& request) {
+    CheckRequest result;
+    readProblem(request, result);
+    if (member(request, "lines") == nullptr) throw BadRequest("The request has no \"lines\".");
+    result.lines = listMember(request, "lines");
     return result;
 }
 
@@ -105,7 +117,8 @@ std::string dispatch(const nlohmann::json& request) {
     if (op == "solve") return solveAnswer(solveRequest(request));
     if (op == "keys") return keysAnswer({textMember(request, "topic", true), textMember(request, "text", true)});
     if (op == "example") return exampleAnswer(exampleRequest(request));
-    throw BadRequest("There is no op \"" + op + "\"; it is solve, keys or example.");
+    if (op == "check") return checkAnswer(checkRequest(request));
+    throw BadRequest("There is no op \"" + op + "\"; it is solve, check, keys or example.");
 }
 
 std::string errorAnswer(const char* sentence) {

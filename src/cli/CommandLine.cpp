@@ -77,6 +77,24 @@ int runSolve(SolveOptions& options, std::ostream& out, std::ostream& err) {
     return solvedStatus(answer, out, err);
 }
 
+struct CheckOptions : SolveOptions {
+    std::vector<std::string> lines;
+};
+
+int runCheck(CheckOptions& options, std::ostream& out, std::ostream& err) {
+    readAssignments(options);
+    const Json answer = answerCheck({options.request, options.lines});
+    if (options.json) {
+        out << dumped(answer) << '\n';
+    } else {
+        printCheck(answer, out);
+    }
+    out.flush();
+    if (lastLineIsAnswer(answer)) return exitDone;
+    err << "ordwise-cli: " << checkFailureSentence(answer) << '\n';
+    return exitRefused;
+}
+
 struct LoadOptions {
     LoadRequest request;
     std::vector<std::string> settings;
@@ -158,21 +176,33 @@ void addForms(CLI::App& command, std::vector<std::string>& forms) {
         ->allow_extra_args(false);
 }
 
-void addSolveOptions(CLI::App& command, SolveOptions& options) {
+void addProblemOptions(CLI::App& command, SolveOptions& options) {
     command.add_option("TOPIC", options.request.topic, "Name of the topic, exactly")->required();
     command.add_option("PROBLEM", options.request.problem, "The problem, flat (3/4+x^2) or as the paper draws it");
     addRepeated(command, "--box", options.boxes, "N=TEXT fills TextN");
     addRepeated(command, "--combo", options.combos, "N=INDEX selects in ComboN");
     addRepeated(command, "--answer", options.request.answers, "Answer to the next question of the solve");
     addRepeated(command, "--set", options.settings, "KEY=VALUE, a setting of the per-user store");
+    addForms(command, options.request.forms);
+    command.add_flag("--json", options.json, "One JSON object");
+}
+
+void addCheckOptions(CLI::App& command, CheckOptions& options) {
+    addProblemOptions(command, options);
+    command.add_option("--line", options.lines, "The next line of one's own, flat or as the paper draws it")
+        ->expected(1)
+        ->take_all()
+        ->required();
+}
+
+void addSolveOptions(CLI::App& command, SolveOptions& options) {
+    addProblemOptions(command, options);
     const auto saveTo = [&options](const std::string& file) {
         if (file.empty()) throw BadRequest("--save needs the name of a file.");
         options.request.saveTo = file;
     };
     command.add_option_function<std::string>("--save", saveTo, "Save the solved problem to this file");
     command.add_flag("--drop-refused", options.request.dropRefused, "Type on without the refused keys");
-    addForms(command, options.request.forms);
-    command.add_flag("--json", options.json, "One JSON object");
 }
 
 void addLoadOptions(CLI::App& command, LoadOptions& options) {
@@ -209,6 +239,7 @@ void addTestOptions(CLI::App& command, TestOptions& options) {
 // What a command was asked to do, filled by the library as it reads the arguments.
 struct Commands {
     SolveOptions solve;
+    CheckOptions check;
     LoadOptions load;
     ExampleOptions example;
     TestOptions test;
@@ -233,6 +264,9 @@ void addCommands(CLI::App& app, Commands& commands, std::istream& in, std::ostre
 
     addSolveOptions(*add("solve", "Solve a problem", [&] { return runSolve(commands.solve, out, err); }),
                     commands.solve);
+    addCheckOptions(
+        *add("check", "Judge the lines of one's own solution", [&] { return runCheck(commands.check, out, err); }),
+        commands.check);
     addLoadOptions(*add("load", "Solve a saved problem", [&] { return runLoad(commands.load, out, err); }),
                    commands.load);
     addExampleOptions(

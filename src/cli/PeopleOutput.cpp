@@ -59,6 +59,28 @@ void printSolution(const nlohmann::ordered_json& answer, std::ostream& out) {
     out << "Solved in " << count << (count == 1 ? " step.\n" : " steps.\n");
 }
 
+void printCheck(const nlohmann::ordered_json& answer, std::ostream& out) {
+    if (!textIn(answer, "markup").empty()) out << plainText(textIn(answer, "markup")) << '\n';
+    const auto& lines = answer.at("lines");
+    for (const auto& line : lines) {
+        out << std::left << std::setw(24) << plainText(textIn(line, "markup")) << "  " << textIn(line, "verdict")
+            << '\n';
+        printForms(line, "forms", out);
+        printWrapped(textIn(line, "reason"), "    ", out);
+        if (!line.at("slip").is_null()) printWrapped(plainText(textIn(line.at("slip"), "reason")), "    ", out);
+    }
+    if (lastLineIsAnswer(answer)) {
+        out << "Finished.\n";
+    } else if (!lines.empty() && !lines.back().at("next").is_null()) {
+        printWrapped("Next: " + plainText(textIn(lines.back().at("next"), "note")), "", out);
+    }
+}
+
+std::string checkFailureSentence(const nlohmann::ordered_json& answer) {
+    if (!answer.at("refused").empty() || !answer.at("canSolve").get<bool>()) return failureSentence(answer);
+    return "The last line is not an answer that is right and finished.";
+}
+
 void printKeys(const nlohmann::ordered_json& answer, std::ostream& out) {
     for (const auto& key : answer.at("keys")) {
         const bool accepted = key.at("accepted").get<bool>();

@@ -44,6 +44,11 @@ struct LoadRequest {
     std::vector<std::string> forms;
 };
 
+// Lines of the student's own, as ordwise-cli check judges them.
+struct CheckRequest : SolveRequest {
+    std::vector<std::string> lines;  // flat, or as the paper draws them
+};
+
 // A practice test, as ordwise-cli test makes it.
 struct TestRequest {
     std::vector<std::string> sections;  // TOPIC:COUNT or TOPIC:COUNT:complex
@@ -76,6 +81,7 @@ struct ExampleRequest {
 [[nodiscard]] std::string loadAnswer(const LoadRequest& request);
 [[nodiscard]] std::string exampleAnswer(const ExampleRequest& request);
 [[nodiscard]] std::string keysAnswer(const KeysRequest& request);
+[[nodiscard]] std::string checkAnswer(const CheckRequest& request);
 // The same as objects, for whoever reads in them.
 [[nodiscard]] nlohmann::ordered_json answerSolve(const SolveRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerLoad(const LoadRequest& request);
@@ -84,9 +90,10 @@ struct ExampleRequest {
 // version, seed, lines and key of each.
 [[nodiscard]] nlohmann::ordered_json answerTest(const TestRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerKeys(const KeysRequest& request);
+[[nodiscard]] nlohmann::ordered_json answerCheck(const CheckRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerTopics();
 
-// A request of a batch: {"op": "solve", "keys" or "example", "topic": ..., ...}. Never throws for bad input:
+// A request of a batch: {"op": "solve", "check", "keys" or "example", "topic": ..., ...}. Never throws for bad input:
 // a request that cannot be read is answered with {"error": "..."}.
 [[nodiscard]] nlohmann::ordered_json answerRequest(const nlohmann::json& request);
 // The same as text.
@@ -98,5 +105,7 @@ struct ExampleRequest {
 
 // Whether a solve came to its end: no key or box refused, Solve enabled, no message box.
 [[nodiscard]] bool wasSolved(const nlohmann::ordered_json& answer);
+// Whether the last line of a check was right, and an answer.
+[[nodiscard]] bool lastLineIsAnswer(const nlohmann::ordered_json& answer);
 
 }  // namespace ordwise

@@ -37,6 +37,42 @@ constexpr MaskRow anyOtherKey =
 
 constexpr int signBit = 2;
 
+// What the solver of a topic writes and its problems do not have.
+struct SolversKeys {
+    int type;
+    int bits;
+};
+
+// clang-format off
+constexpr SolversKeys solversKeys[] = {
+    { 76, 32},         // #(3+2)/6#
+    { 81, 32 | 1024},  // 1.6
+    { 84, 4},          // 2*180
+    { 91, 32},
+    {101, 8 | 1024},   // #2x/2#=#4/2#, x=0.33
+    {102, 1024},
+    {103, 1024 | 8},
+    {105, 8 | 1024},
+    {120, 32},
+    {121, 1024},
+    {150, 1024},
+};
+// clang-format on
+
+int keysAllowed() {
+    int bits = ws.InputMask;
+    if (!ws.LineWorked) return bits;
+    for (const SolversKeys& row : solversKeys) {
+        if (row.type == ws.ProblemType) bits |= row.bits;
+    }
+    return bits;
+}
+
+// "$", the sign that says that the sides of an equation differ.
+bool isUnequalSign(std::string_view key) {
+    return key == "$" && ws.LineWorked && (ws.InputMask & 64) != 0;
+}
+
 const MaskRow& rowOf(std::string_view key) {
     for (const MaskRow& row : maskRows) {
         if (key.size() == 1 && contains(row.keys, key)) return row;
@@ -47,9 +83,9 @@ const MaskRow& rowOf(std::string_view key) {
 }  // namespace
 
 std::optional<std::string> maskRefusal(std::string_view key) {
-    if (ws.InputMask <= 0) return std::nullopt;
+    if (ws.InputMask <= 0 || isUnequalSign(key)) return std::nullopt;
     const MaskRow& row = rowOf(key);
-    if ((ws.InputMask & row.bit) != 0) return std::nullopt;
+    if ((keysAllowed() & row.bit) != 0) return std::nullopt;
     const std::string advice = row.bit == signBit ? "'.  Enter a number without using + or -." : "'.";
     return replaced(std::string(row.refusal), "<c>", key) + ws.TopicName + advice +
            "  Click the Assistant Wiz for details.";

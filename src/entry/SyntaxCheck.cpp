@@ -37,7 +37,7 @@ constexpr RuleRow rules[] = {
     {"+-*", checkOperator},
     {"/",   checkDivision},
     {"~",   checkRoot},
-    {"=",   checkEquals},
+    {"=$",  checkEquals},
     {")",   checkCloseParenthesis},
     {"(",   checkOpenParenthesis},
     {"^",   checkExponent},

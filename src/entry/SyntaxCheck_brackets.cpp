@@ -7,7 +7,8 @@ namespace ordwise {
 
 Verdict checkOpenParenthesis(const TypedKey& key) {
     const bool startsTogether = key.p == "(" || key.p2 == "(";
-    if (key.p == ")" || (ws.ParenDepth > 1 && !startsTogether)) {
+    const bool multiplies = key.p == ")" && ws.LineWorked;  // e.g. 4(2)(3)
+    if ((key.p == ")" && !multiplies) || (ws.ParenDepth > 1 && !startsTogether)) {
         return Verdict::refuse("Close the last parenthesis before opening a new one.");
     }
     if (key.startsExponent() || ws.FractionOpen || ws.ParenDepth >= lastLevel) return Verdict::refuse();

@@ -33,14 +33,17 @@ std::string tooManyVariables() {
 
 Verdict checkLetter(const TypedKey& key) {
     if (key.startsExponent()) return Verdict::refuse("You can't have a variable in an exponent.");
-    if (ws.FractionOpen) {
+    // e.g. 19/2x^2, where an exponent was negative
+    const bool belowBar = ws.LineWorked && ws.ProblemType == 150;
+    if (ws.FractionOpen && !belowBar) {
         return Verdict::refuse("You can't have a variable in the denominator of a fraction in Ordwise");
     }
     if (key.p == key.ch) {
         return Verdict::refuse("You can't type the same variable twice in a row in '" + ws.TopicName + "'.");
     }
     const bool lettersMayMeet = ws.EquationMode == 3;
-    if (!isAmongAllowed(key.ch) || (IsLetter(key.p) && !lettersMayMeet) || key.p == ")" || ws.BarOpen) {
+    if (!isAmongAllowed(key.ch) || (IsLetter(key.p) && !lettersMayMeet) || (key.p == ")" && !ws.LineWorked) ||
+        ws.BarOpen) {
         return Verdict::refuse(tooManyVariables());
     }
     if (stoodInTerm(key.ch)) return Verdict::refuse();

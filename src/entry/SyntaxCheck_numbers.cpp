@@ -10,7 +10,16 @@ namespace ordwise {
 
 namespace {
 
-constexpr std::size_t longestDecimals = 2;
+// A line of the student's own may hold what comes out of the numbers of the problem.
+constexpr int longestWorked = 9;
+
+std::size_t longestDecimals() {
+    return ws.LineWorked ? longestWorked : 2;
+}
+
+int longestNumber() {
+    return ws.LineWorked ? longestWorked : ws.MaxDigits - 1;
+}
 
 // The number that the next digit would join, "" for the first digit of a new one. e.g. "1.2/34"
 // in the last cell -> "34"
@@ -32,11 +41,13 @@ std::string lengthComplaint(const TypedKey& key) {
     const std::size_t point = number.find('.');
     if (point != std::string_view::npos) {
         const std::size_t decimals = number.size() - point - 1;
-        return decimals < longestDecimals ? "" : "Please keep all decimal portions to 2 digits or less.";
+        if (decimals < longestDecimals()) return "";
+        return "Please keep all decimal portions to " + textOf(static_cast<int>(longestDecimals())) +
+               " digits or less.";
     }
-    if (static_cast<int>(number.size()) + 1 < ws.MaxDigits) return "";
-    const int longest = ws.MaxDigits - 1;
-    return tooManyDigits(IsFractionToken(key.cell) ? longest + 1 : longest);
+    const int longest = longestNumber();
+    if (static_cast<int>(number.size()) < longest) return "";
+    return tooManyDigits(IsFractionToken(key.cell) && !ws.LineWorked ? longest + 1 : longest);
 }
 
 }  // namespace
@@ -46,9 +57,12 @@ Verdict checkDigit(const TypedKey& key) {
     std::string complaint = lengthComplaint(key);
     if (!complaint.empty()) return Verdict::refuse(std::move(complaint));
 
-    const bool exponentIsFull = ws.ExponentOpen && key.followsNumber();
+    const bool secondDigit = key.followsNumber() && (key.p2 == "^" || key.p2 == "-");
+    const bool exponentIsFull = ws.ExponentOpen && key.followsNumber() && !(ws.LineWorked && secondDigit);
     const bool behindClosingBar = key.p == "|" && !ws.BarOpen;
-    if (exponentIsFull) return Verdict::refuse("Exponents can't be greater than one digit.");
+    if (exponentIsFull)
+        return Verdict::refuse(ws.LineWorked ? "Exponents can't be greater than two digits."
+                                             : "Exponents can't be greater than one digit.");
     if (IsLetter(key.p)) {
         return Verdict::refuse("You can't type more than " + signedTextOf(ws.MaxDigits - 1) + " numbers in a row.");
     }

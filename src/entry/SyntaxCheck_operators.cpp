@@ -11,9 +11,9 @@ bool isListOfNumbers() {
     return ws.ProblemType >= 59 && ws.ProblemType <= 62;
 }
 
-// A sign that is part of what follows it: "(-3", "x^-2".
+// A sign that is part of what follows it: "(-3", "x^-2", and in a line of a solution "-2x/-2".
 bool isLeadingMinus(const TypedKey& key) {
-    return key.ch == "-" && (key.p == "(" || key.p == "^");
+    return key.ch == "-" && (key.p == "(" || key.p == "^" || (key.p == "/" && ws.LineWorked));
 }
 
 bool mayOperate(const TypedKey& key) {
@@ -40,7 +40,8 @@ Verdict checkDivision(const TypedKey& key) {
         ws.FractionOpen = false;
         return Verdict::accept();
     }
-    const bool nothingToDivide = key.first() || key.p == "(" || key.p == "^" || key.p == "." || key.p == ")" ||
+    const bool behindParenthesis = key.p == ")" && !ws.LineWorked;  // of a solution e.g. (3+2)/6
+    const bool nothingToDivide = key.first() || key.p == "(" || key.p == "^" || key.p == "." || behindParenthesis ||
                                  key.p == "|" || IsOperator(key.p);
     if (nothingToDivide || ws.FractionOpen) return Verdict::refuse("You can't type a / after a " + key.p + ".");
 
@@ -67,7 +68,9 @@ Verdict checkEquals(const TypedKey& key) {
 
 Verdict checkExponent(const TypedKey& key) {
     if (ws.ExponentOpen) return Verdict::refuse("You can't type another exponent inside an exponent.");
-    if (ws.FractionOpen || !(IsLetter(key.p) || key.followsNumber())) {
+    const bool raised = IsLetter(key.p) || key.followsNumber() || (key.p == ")" && ws.LineWorked);
+    const bool belowBar = ws.LineWorked && ws.ProblemType == 150;
+    if ((ws.FractionOpen && !belowBar) || !raised) {
         return Verdict::refuse("You can't type a ^ inside an exponent in this problem.");
     }
     ws.ExponentOpen = true;

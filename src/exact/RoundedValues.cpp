@@ -32,30 +32,59 @@ std::vector<Rational> waysToRound(const Rational& r, const Rounding& rounding) {
     return ways;
 }
 
-// The same for all coefficients at once; a fraction with letters below is left alone.
+// A sum of terms, where one term at most stands below the bar: its coefficients by their exponents, those
+// from below the bar negative. Nothing for a fraction with a sum below.
+using Terms = std::map<Exponents, RootSum>;
+
+std::optional<Terms> termsOf(const Quotient& q) {
+    if (q.below.terms().size() != 1) return std::nullopt;
+    const auto& [below, divisor] = *q.below.terms().begin();
+    const RootSum factor = divisor.inverse();
+    Terms terms;
+    for (const auto& [above, coefficient] : q.above.terms()) {
+        Exponents exponents{};
+        std::transform(above.begin(), above.end(), below.begin(), exponents.begin(), std::minus<>());
+        terms.emplace(exponents, coefficient * factor);
+    }
+    return terms;
+}
+
+Quotient quotientOf(const Terms& terms) {
+    Exponents most{};
+    for (const auto& term : terms) {
+        for (std::size_t i = 0; i < most.size(); ++i) most.at(i) = std::max(most.at(i), -term.first.at(i));
+    }
+    Quotient q;
+    q.below = Polynomial();
+    q.below.terms().emplace(most, RootSum(1));
+    for (const auto& [exponents, coefficient] : terms) {
+        if (coefficient.isZero()) continue;
+        Exponents above{};
+        std::transform(exponents.begin(), exponents.end(), most.begin(), above.begin(), std::plus<>());
+        q.above.terms().emplace(above, coefficient);
+    }
+    return q;
+}
+
+// The same for all coefficients at once.
 std::vector<Quotient> waysToRound(const Quotient& q, const Rounding& rounding) {
+    constexpr std::size_t mostWays = 4;
     std::vector<Quotient> ways{q};
-    if (!q.below.asConstant()) return ways;
-    for (std::size_t way = 1; way < 4; ++way) {
-        Quotient other = q;
+    const auto terms = termsOf(q);
+    if (!terms) return ways;
+    for (std::size_t way = 1; way < mostWays; ++way) {
+        Terms other = *terms;
         bool changed = false;
-        for (auto& [exponents, coefficient] : other.above.terms()) {
-            const auto r = coefficient.asRational();
+        for (auto& entry : other) {
+            const auto r = entry.second.asRational();
             if (!r) continue;
             const auto choices = waysToRound(*r, rounding);
             if (way >= choices.size()) continue;
-            coefficient = RootSum(choices[way]);
+            entry.second = RootSum(choices[way]);
             changed = true;
         }
         if (!changed) break;
-        Polynomial clean;
-        for (const auto& [exponents, coefficient] : other.above.terms()) {
-            if (coefficient.isZero()) continue;
-            Polynomial term;
-            term.terms().emplace(exponents, coefficient);
-            clean += term;
-        }
-        ways.push_back({clean, q.below});
+        ways.push_back(quotientOf(other));
     }
     return ways;
 }
@@ -154,17 +183,17 @@ std::vector<Quotient> roundedValues(const Tree& tree, const Rounding& rounding, 
 
 bool isRounded(const Quotient& exact, const Quotient& written, const Rounding& rounding, Effort& effort) {
     if (equal(exact, written, effort)) return true;
-    if (!exact.below.asConstant() || !written.below.asConstant()) return false;
-    const auto coefficientOf = [](const Polynomial& p, const Exponents& exponents) {
-        const auto found = p.terms().find(exponents);
-        return found == p.terms().end() ? RootSum() : found->second;
+    const auto a = termsOf(exact);
+    const auto b = termsOf(written);
+    if (!a || !b) return false;
+    const auto coefficientOf = [](const Terms& terms, const Exponents& exponents) {
+        const auto found = terms.find(exponents);
+        return found == terms.end() ? RootSum() : found->second;
     };
     const auto agrees = [&](const auto& term) {
-        return isRoundedNumber(coefficientOf(exact.above, term.first), coefficientOf(written.above, term.first),
-                               rounding);
+        return isRoundedNumber(coefficientOf(*a, term.first), coefficientOf(*b, term.first), rounding);
     };
-    return std::all_of(exact.above.terms().begin(), exact.above.terms().end(), agrees) &&
-           std::all_of(written.above.terms().begin(), written.above.terms().end(), agrees);
+    return std::all_of(a->begin(), a->end(), agrees) && std::all_of(b->begin(), b->end(), agrees);
 }
 
 }  // namespace ordwise::exact

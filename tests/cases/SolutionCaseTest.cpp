@@ -116,7 +116,7 @@ std::string nameOf(const testing::TestParamInfo<Case>& info) {
     return info.param.name();
 }
 
-INSTANTIATE_TEST_SUITE_P(Cases, Solution, testing::ValuesIn(casesIn(ORDWISE_CASES, {"keys"})), nameOf);
+INSTANTIATE_TEST_SUITE_P(Cases, Solution, testing::ValuesIn(casesIn(ORDWISE_CASES, {"check", "keys"})), nameOf);
 
 }  // namespace
 }  // namespace ordwise::test

@@ -56,6 +56,21 @@ TEST(CommandLine, WritesJsonWithItsKeysInOrder) {
     EXPECT_EQ(keys, wanted);
 }
 
+TEST(CommandLine, ChecksLinesAndSaysByItsStatusWhetherTheLastIsTheAnswer) {
+    const Outcome done = cli({"check", "Solving Equations", "2x+3=7", "--line", "2x=4", "--line", "x=2"});
+    EXPECT_EQ(done.status, 0) << done.err;
+    EXPECT_NE(done.out.find("x=2                       right"), std::string::npos) << done.out;
+    expectRefusal(cli({"check", "Solving Equations", "2x+3=7", "--line", "-2x=4"}), 1, "last line");
+    expectRefusal(cli({"check", "Solving Equations", "2x+", "--line", "x=2"}), 1, "not complete");
+    expectRefusal(cli({"check", "Evaluating Polynomials", "4x", "--line", "8"}), 1, "Enter a value for x");
+    expectRefusal(cli({"check", "Plotting A Point", "(1,2)", "--line", "x"}), 2, "answered by a drawing");
+    const Outcome asJson = cli({"check", "Arithmetic", "1/2+1/3", "--line", "#(3+2)/6#", "--line", "1", "--json"});
+    const ordered_json answer = ordered_json::parse(asJson.out);
+    EXPECT_EQ(answer["lines"][0]["verdict"], "right");
+    EXPECT_EQ(answer["lines"][1]["evidence"], ordered_json::parse(R"({"at":{},"before":"5/6","line":"1"})"));
+    EXPECT_EQ(answer["finished"], false);
+}
+
 TEST(CommandLine, TakesBoxesCombosAnswersAndSettings) {
     const Outcome boxes = cli({"solve", "Meter Conversions", "--box", "4=5", "--combo", "1=6", "--combo", "2=3"});
     EXPECT_EQ(boxes.status, 0) << boxes.err;

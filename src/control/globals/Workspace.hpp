@@ -71,6 +71,7 @@ struct SyntaxState {
     Int16 FractionDepth;        // ParenDepth at that "/"
     bool EqualsTyped = false;
     bool ExponentOpen = false;
+    bool LineWorked = false;          // a line of the student's own solution is typed, no problem
     bool ExplainOverride = false;     // the explanation window shows the text below
     std::string ExplainOverrideText;  // the reason of the last refusal
     bool InputOpen = true;            // keys are taken; false from Solve until Erase

@@ -23,6 +23,9 @@ public:
             numberOpen_ = true;
         } else if (isMark(c, '/') && joinsNumber(before, after)) {
             extend(c);
+        } else if (ws.LineWorked && isMark(c, '-') && isMark(before, '/')) {
+            open(c);  // the sign of the number below a bar. e.g. -2x/-2
+            numberOpen_ = true;
         } else {
             open(c);
             numberOpen_ = false;

@@ -37,6 +37,9 @@ int spreadCells() {
 // engine with parentheses, where a bar divides what is in them.
 bool dividesFractions() {
     if (ws.ProblemType != 76) return false;
+    for (int i = 0; ws.LineWorked && i < ws.InputLast; ++i) {
+        if (ws.InputTokens[i] == ")") return false;
+    }
     for (int i = 0; i < ws.TokenBuffer.used(); ++i) {
         if (contains(ws.TokenBuffer[i], ")")) return false;
     }

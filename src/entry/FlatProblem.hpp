@@ -1,4 +1,4 @@
-// A problem as it is given to the terminal: flat, as a student types it, or as the paper draws it.
+// A problem, or a line of a solution, as a text: flat, as a student types it, or as the paper draws it.
 #pragma once
 
 #include <string>
