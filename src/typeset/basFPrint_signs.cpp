@@ -56,9 +56,9 @@ bool isHyphen(std::string_view text, std::size_t at) {
 }  // namespace
 
 void MathLineRenderer::glyph(std::string_view text, std::size_t at) {
-    const bool prose = isProse(surface_->FontFace);
-    if (prose && text[at] == '-' && isHyphen(text, at)) {
-        surface_->print("-");
+    const bool hyphen = text[at] == '-' && isProse(surface_->FontFace) && isHyphen(text, at);
+    if (hyphen || !isOneOf(text[at], "+-=$*{\\")) {
+        surface_->print(text.substr(at, 1));
         return;
     }
     const bool binary = endsInOperand(before(text, at));
