@@ -2,6 +2,7 @@
 
 #include "Fault.hpp"
 #include "Platform.hpp"
+#include "ShownLines.hpp"
 #include "SolveDispatch.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
@@ -24,14 +25,31 @@ void enablePrintAndSave() {
     frmMain.mnuSave.Enabled = true;
 }
 
+// A key that was not taken is missing in what is solved; that is said once more, and then it is past.
+void tellDroppedKeys() {
+    const std::vector<DroppedKey>& keys = frmPaper.DroppedKeys;
+    if (keys.empty()) return;
+    std::string words;
+    for (const DroppedKey& key : keys) words += (words.empty() ? "'" : ", '") + key.Key + "'";
+    frmMain.StatusText = keys.size() == 1 ? "Solved without the key that was not taken: " + words + "."
+                                          : "Solved without the keys that were not taken: " + words + ".";
+    frmPaper.DroppedKeys.clear();
+    frmPaper.Paper[0].Marks.clear();
+    frmPaper.BoxMarks.clear();
+}
+
 void beginRun() {
     frmMain.MousePointer = hourglass;
+    tellDroppedKeys();
+    frmMain.mnuUndo.Enabled = false;
+    frmMain.mnuRedo.Enabled = false;
     enablePrintAndSave();
     frmPaper.Light.Image = "light1";
     frmPaper.Light.ToolTip = "Click the red light for incorrect input details.";
     ws.InputOpen = false;
     frmPaper.Pencil.Image = "pencil1";
     platform.windows->unload("frmGraph");
+    forgetLines();
     ws.StepCount = 1;
     // What the problem before has left would stand at the first line, or keep it from being recorded.
     ws.CurrentNote.clear();

@@ -5,6 +5,7 @@
 #include "Platform.hpp"
 #include "PracticeWindow.hpp"
 #include "PrintWindows.hpp"
+#include "ShortcutsWindow.hpp"
 #include "StartWindows.hpp"
 
 namespace ordwise {
@@ -44,8 +45,10 @@ MainWindow::MainWindow() {
     mnuFile.Text = "&File";                  mnuNew.Text = "&New Problem";
     mnuPrint.Text = "&Print";                mnuPrintSetup.Text = "P&rint Setup";
     mnuSave.Text = "Save Problem";           mnuLoad.Text = "Load Problem";
-    mnuRecent.Text = "&Open Recent";
+    mnuRecent.Text = "&Open Recent";         mnuClose.Text = "&Close Problem";
     mnuExit.Text = "&Exit";
+    mnuEdit.Text = "&Edit";                  mnuUndo.Text = "&Undo";
+    mnuRedo.Text = "&Redo";
     mnuCreate.Text = "&Tools";               mnuSolve.Text = "&Solve!";
     mnuExample.Text = "E&xample Problem";    mnuErase.Text = "Erase &Problem";
     mnuGraph.Text = "Create &Graph";         mnuPracticeTest.Text = "Practice &Test";
@@ -60,15 +63,16 @@ MainWindow::MainWindow() {
     mnuShowLight.Text = "Show &Guided Input Light";
     mnuChange.Text = "Se&ttings";
     mnuHelp.Text = "&Help";                  mnuHelpTopics.Text = "Help Topics";
+    mnuShortcuts.Text = "&Keyboard Shortcuts";
     mnuWeb.Text = "Halvern on the &Web";     mnuAlgSol.Text = "&Ordwise";
     mnuHomePage.Text = "Halvern &Home Page"; mnuOnlineSupport.Text = "Online Support";
     mnuAbout.Text = "&About Ordwise";
     mnuHide.Text = "&Hide";                  mnuHideOptions.Text = "&Options...";
     mnuUsePencil.Text = "Use &Pencil";       mnuHideLight.Text = "&Hide Guided Input Light";
     // clang-format on
-    for (Control* menu :
-         {&mnuPrint, &mnuPrintSetup, &mnuSave, &mnuSolve, &mnuExample, &mnuErase, &mnuGraph, &mnuExp, &mnuSquareRoot,
-          &mnuExponet, &mnuAbsValue, &mnuAddition, &mnuSubtraction, &mnuMultiplication, &mnuDivision}) {
+    for (Control* menu : {&mnuPrint, &mnuPrintSetup, &mnuSave, &mnuClose, &mnuUndo, &mnuRedo, &mnuSolve, &mnuExample,
+                          &mnuErase, &mnuGraph, &mnuExp, &mnuSquareRoot, &mnuExponet, &mnuAbsValue, &mnuAddition,
+                          &mnuSubtraction, &mnuMultiplication, &mnuDivision}) {
         menu->Enabled = false;
     }
     for (Control* menu : {&mnuPencil, &mnuShowStep, &mnuHideWiz, &mnuShowLight, &mnuUsePencil}) menu->Checked = true;
@@ -106,6 +110,7 @@ void ResetWindows() {
     restart(frmPracticeTest);
     restart(frmAbout);
     restart(frmHelp);
+    restart(frmShortcuts);
 }
 
 }  // namespace ordwise

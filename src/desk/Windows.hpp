@@ -44,6 +44,15 @@ struct TimerControl {
     int Interval = 0;  // milliseconds
 };
 
+// A key that the student pressed and that was not taken: it would stand behind the first `At` keys of
+// the paper, or of a box.
+struct DroppedKey {
+    std::string Key;
+    std::string Reason;
+    int Box = 0;  // 0 the paper
+    int At = 0;
+};
+
 // One sheet of paper: a picture surface with its Next Step button and its title.
 struct Sheet : DrawingSurface {
     double Left = 0;
@@ -54,7 +63,37 @@ struct Sheet : DrawingSurface {
     int Order = 0;  // sheets with a higher number lie in front
     Control blinker;
     Control Label6;  // the title of the sheet
+    // Shown with the drawing and no part of it: the places of dropped keys, the chosen line. Neither
+    // printed nor exported.
+    DisplayList Marks;
 };
+
+// A line of the solution as it stands on a sheet, with the note that explains it. A step may have a
+// note only; it then has the place of the line before.
+struct ShownLine {
+    std::string Line;
+    std::string Note;
+    int Sheet = 0;
+    double Top = 0;
+    double Bottom = 0;
+    bool Written = true;  // false for a note without a line
+    double Closer = 0;    // by so much it stands nearer to the line before it
+    bool Turns = false;   // it begins a sheet, so that the last line is not alone there
+    double EndX = 0;      // where the line ends, as LineEndX and LineEndY tell
+    double EndY = 0;
+};
+
+// A note beside its line: a slip of paper on the desk, its text drawn from its own corner.
+struct NoteSlip : DrawingSurface {
+    double Left = 0;  // on the desk, in points of the sheets
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+    int Line = 0;  // index of the shown line that it explains
+};
+
+// Where the notes of a shown solution stand without being asked for.
+enum class NotesPlace { Nowhere, BesideLines, UnderLines };
 
 struct PaperWindow {
     static constexpr int lastSheet = 9;
@@ -88,6 +127,23 @@ struct PaperWindow {
     Int16 GrabX, GrabY;
     Int16 PressLeft, PressTop;
     Int16 PencilCount;  // strokes of the pencil since the last key
+
+    // Keys that were not taken and that the student has not gone back over, in the order in which they
+    // were pressed; and the marks at those of the boxes, on Picture3.
+    std::vector<DroppedKey> DroppedKeys;
+    DisplayList BoxMarks;
+    int KeyboardBox = 0;  // the box that a command wants to have the keyboard, 0 once it has it
+
+    // The lines of the solution that are to be seen, and the one that is chosen to be explained, -1 for
+    // none. FirstSheet keeps the sheet on which they begin as it was before the first of them.
+    std::vector<ShownLine> Lines;
+    int ChosenLine = -1;
+    Sheet FirstSheet;
+    NotesPlace Notes = NotesPlace::Nowhere;
+    double NotesLeft = 0;   // where on the desk there is room for notes beside the sheets,
+    double NotesWidth = 0;  // and how much
+    std::vector<NoteSlip> Slips;
+    int SlipsSheet = 0;  // the sheet whose lines they explain
 
     // Text1 to Text6 and Combo1 to Combo3 by number; fault 9 for a number outside.
     [[nodiscard]] Control& box(int number);
@@ -133,12 +189,13 @@ struct MainWindow {
     std::string DrawnExample;        // what Example wrote last, as it would be saved
     bool CommandLineOpened = false;  // its file was opened; from now on Load Problem asks for one
 
-    Control mnuFile, mnuNew, mnuPrint, mnuPrintSetup, mnuSave, mnuLoad, mnuRecent, mnuExit;
+    Control mnuFile, mnuNew, mnuPrint, mnuPrintSetup, mnuSave, mnuLoad, mnuRecent, mnuClose, mnuExit;
+    Control mnuEdit, mnuUndo, mnuRedo;
     Control mnuCreate, mnuSolve, mnuExample, mnuErase, mnuGraph, mnuPracticeTest, mnuExp;
     Control mnuSpecial, mnuSquareRoot, mnuExponet, mnuAbsValue, mnuAddition, mnuSubtraction, mnuMultiplication,
         mnuDivision, mnuConvertDF;
     Control mnuOptions, mnuPencil, mnuShowStep, mnuHideWiz, mnuShowLight, mnuChange;
-    Control mnuHelp, mnuHelpTopics, mnuWeb, mnuAlgSol, mnuHomePage, mnuOnlineSupport, mnuAbout;
+    Control mnuHelp, mnuHelpTopics, mnuShortcuts, mnuWeb, mnuAlgSol, mnuHomePage, mnuOnlineSupport, mnuAbout;
     // The pop-up menus of the desk: of the assistant, of the pencil, of the light.
     Control mnuHidden, mnuHide, mnuHideOptions;
     Control mnuHidden2, mnuUsePencil;

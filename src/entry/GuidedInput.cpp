@@ -3,13 +3,17 @@
 #include "CanonicalRewrite.hpp"
 #include "Catalogue.hpp"
 #include "Fault.hpp"
+#include "DroppedKeys.hpp"
 #include "InputMaskCheck.hpp"
 #include "SolveDriver.hpp"
+#include "SolveReadiness.hpp"
 #include "StepDisplay.hpp"
 #include "SyntaxCheck.hpp"
 #include "TextTools.hpp"
 #include "TypedRoom.hpp"
+#include "TypingHistory.hpp"
 #include "Windows.hpp"
+#include "WorksheetBoxes.hpp"
 #include "WorksheetLayout.hpp"
 #include "Workspace.hpp"
 #include "basBreakdownFunc.hpp"
@@ -93,6 +97,36 @@ void showRefused() {
     frmPaper.Light.ToolTip = "Incorrect input.";
 }
 
+void clearPaper() {
+    frmPaper.Paper[0].cls();
+    frmPaper.Paper[0].CurrentY = sheetTopY;
+}
+
+// Enter where there is nothing to run yet.
+KeyOutcome refuseUnfinished() {
+    if (isOnPaper(ws.ProblemType)) {
+        GroupInput();
+        ws.ExplainOverrideText = whatIsMissing(rewriteCells());
+    } else {
+        ws.ExplainOverrideText = whatBoxesMiss();
+    }
+    showRefused();
+    return KeyOutcome::Refused;
+}
+
+// A key that is not looked at does not vanish unseen either.
+KeyOutcome drop(std::string_view key) {
+    if (key == enterKey || ws.ProblemType == 0) return KeyOutcome::Dropped;
+    if (!ws.InputOpen) {
+        frmMain.StatusText = "The problem has been solved.  Erase it to enter another one.";
+    } else if (!isOnPaper(ws.ProblemType)) {
+        frmMain.StatusText = "Type into the boxes.  Tab goes from one to the next.";
+    } else {
+        frmMain.StatusText = "The line is full.  Solve the problem, or take keys back with Backspace.";
+    }
+    return KeyOutcome::Dropped;
+}
+
 // Enter runs what can be run; false if there is nothing.
 bool command() {
     if (frmMain.Toolbar1[MainWindow::buttonSolve].Enabled) {
@@ -111,14 +145,20 @@ bool command() {
 KeyOutcome Form_KeyPress(std::string_view key) {
     ws.CharAccepted = false;
     if (key == enterKey && command()) return KeyOutcome::Commanded;
-    const bool hasRoom = key == backspaceKey || !lineIsFull();
-    if (!hasRoom || !isOnPaper(ws.ProblemType) || !ws.InputOpen) return KeyOutcome::Dropped;
+    if (key == enterKey && ws.InputOpen) return refuseUnfinished();
+    const bool erases = key == backspaceKey;
+    const bool hasRoom = erases || !lineIsFull();
+    if (!hasRoom || !isOnPaper(ws.ProblemType) || !ws.InputOpen) return drop(key);
 
-    frmPaper.Paper[0].cls();
-    frmPaper.Paper[0].CurrentY = sheetTopY;
+    rememberMoment();
+    clearPaper();
     FormFilter(key, false);
     ws.ProblemText = replaced(ImplodeInput(), " ", "");
+    keepMoment(ws.CharAccepted);
 
+    if (erases) forgetKeysGoneBackOver();
+    if (!ws.CharAccepted && !erases) rememberDroppedKey(key);
+    if (!frmPaper.DroppedKeys.empty() || !frmPaper.Paper[0].Marks.empty()) markDroppedKeys();
     if (!ws.CharAccepted) {
         showRefused();
         return KeyOutcome::Refused;
@@ -131,6 +171,16 @@ bool hasRoomFor(std::string_view line) {
     const std::optional<double> end = typedEnd(line, TypedRows::One);
     if (!end) raise(FaultNumber::Subscript);
     return *end < fullLineX;
+}
+
+void showTypedAgain() {
+    if (isOnPaper(ws.ProblemType)) {
+        clearPaper();
+        GroupInput();
+        PrintMathLine(RewriteAll(), false);
+        ws.ProblemText = replaced(ImplodeInput(), " ", "");
+    }
+    showAccepted();
 }
 
 void FormFilter(std::string_view key, bool quiet) {

@@ -16,16 +16,21 @@ inline constexpr std::string_view enterKey = "\r";
 enum class KeyOutcome {
     Accepted,
     Refused,   // the reason is in ExplainOverrideText
-    Dropped,   // not even looked at: the line is full, or the paper takes no keys
+    Dropped,   // not even looked at: the line is full, or the paper takes no keys; the status line tells
     Commanded  // Enter has run Solve or Next Step
 };
 
-// A key pressed on the worksheet. Leaves the light, the pencil, the drawn line, ProblemText and
+// A key pressed on the worksheet. Enter that has nothing to run is refused with what is missing. A
+// refused character is remembered as dropped. Leaves the light, the pencil, the drawn line, ProblemText and
 // whether Solve is enabled as they are to be seen. CharAccepted is true for Accepted only.
 // e.g. "4" behind "3/" -> Accepted; the paper shows #3/4#
 KeyOutcome Form_KeyPress(std::string_view key);
 
-// The same for the text alone: CharAccepted, InputTokens, the syntax state, the rewrite and Solve.
+// Draws the typed line anew, with the light, the pencil and Solve as after a key that was accepted:
+// for typed text that has changed otherwise.
+void showTypedAgain();
+
+// A key for the text alone: CharAccepted, InputTokens, the syntax state, the rewrite and Solve.
 // `quiet` draws nothing; example problems are typed so.
 void FormFilter(std::string_view key, bool quiet);
 

@@ -35,6 +35,26 @@ std::string refusalOf(int problemType, int number, std::string_view text, std::s
     return "";
 }
 
+struct BoxCount {
+    int unfinished = 0;  // boxes that hold no number, or only the beginning of one
+    int unknown = 0;     // boxes that may stay empty, and are
+};
+
+BoxCount countBoxes(const WorksheetLayout& layout) {
+    BoxCount count;
+    for (const PlacedBox& placed : layout.boxes) {
+        const std::string& text = (frmPaper.*placed.box).Text;
+        const auto& unknowns = layout.unknowns;
+        const bool mayBeUnknown = std::find(unknowns.begin(), unknowns.end(), placed.box) != unknowns.end();
+        if (mayBeUnknown && text.empty()) {
+            ++count.unknown;
+        } else if (!IsNumeric(text)) {
+            ++count.unfinished;
+        }
+    }
+    return count;
+}
+
 bool refuse(std::string reason) {
     ws.ExplainOverrideText = std::move(reason);
     return false;
@@ -102,18 +122,19 @@ bool selectInCombo(int number, int index) {
 bool boxesAreReady() {
     const WorksheetLayout* layout = layoutOf(ws.ProblemType);
     if (layout == nullptr) return false;
-    int unknown = 0;
-    for (const PlacedBox& placed : layout->boxes) {
-        const std::string& text = (frmPaper.*placed.box).Text;
-        const auto& unknowns = layout->unknowns;
-        const bool mayBeUnknown = std::find(unknowns.begin(), unknowns.end(), placed.box) != unknowns.end();
-        if (mayBeUnknown && text.empty()) {
-            ++unknown;
-        } else if (!IsNumeric(text)) {
-            return false;
-        }
-    }
-    return unknown == (layout->unknowns.empty() ? 0 : 1);
+    const BoxCount count = countBoxes(*layout);
+    return count.unfinished == 0 && count.unknown == (layout->unknowns.empty() ? 0 : 1);
+}
+
+std::string whatBoxesMiss() {
+    const WorksheetLayout* layout = layoutOf(ws.ProblemType);
+    const BoxCount count = layout == nullptr ? BoxCount{} : countBoxes(*layout);
+    std::string missing;
+    if (count.unfinished == 1) missing = "a box still needs a number";
+    if (count.unfinished > 1) missing = textOf(count.unfinished) + " boxes still need a number";
+    if (count.unknown > 1) missing = "only one box stays empty, the one to be worked out";
+    if (missing.empty()) missing = "one box has to stay empty, the one to be worked out";
+    return "The problem is not finished: " + missing + ".";
 }
 
 }  // namespace ordwise

@@ -35,4 +35,8 @@ bool selectInCombo(int number, int index);
 // True if the boxes of the current topic hold a complete problem; false for a topic of the paper.
 [[nodiscard]] bool boxesAreReady();
 
+// What keeps the boxes from being ready, in a sentence.
+// e.g. "The problem is not finished: 2 boxes still need a number."
+[[nodiscard]] std::string whatBoxesMiss();
+
 }  // namespace ordwise

@@ -1,6 +1,8 @@
 #include "WorksheetErase.hpp"
 
+#include "DroppedKeys.hpp"
 #include "Platform.hpp"
+#include "TypingHistory.hpp"
 #include "Windows.hpp"
 #include "WorksheetBoxes.hpp"
 #include "WorksheetLayout.hpp"
@@ -32,6 +34,8 @@ void resetLight() {
     ws.ExplainOverrideText.clear();
     frmPaper.Light.Image = "light1";
     frmPaper.Light.ToolTip = "Click the red light for incorrect input details.";
+    forgetDroppedKeys();
+    forgetHistory();
 }
 
 void disableSolvedCommands() {

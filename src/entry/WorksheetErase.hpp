@@ -10,7 +10,7 @@ void clear_Click();
 // a worksheet that is laid out anew forgets it.
 void eraseWorksheet();
 
-// The input light before any key, and no refusal to be explained.
+// The input light before any key: no refusal to be explained, no key dropped or to be undone.
 void resetLight();
 // Nothing to solve, print, save or graph.
 void disableSolvedCommands();

@@ -6,6 +6,7 @@
 #include "GlyphMetrics.hpp"
 #include "NumberText.hpp"
 #include "Platform.hpp"
+#include "ShownLines.hpp"
 #include "StepDisplay.hpp"
 #include "WorksheetBoxes.hpp"
 #include "WorksheetErase.hpp"
@@ -124,6 +125,7 @@ void enableWorksheetCommands(bool enabled) {
     frmMain.Toolbar1[MainWindow::buttonClear].Enabled = enabled;
     frmMain.mnuExample.Enabled = enabled;
     frmMain.mnuErase.Enabled = enabled;
+    frmMain.mnuClose.Enabled = enabled;
     frmMain.mnuExp.Enabled = enabled;
 }
 
@@ -168,6 +170,7 @@ void clearDesk() {
     first.Top = sheetTop;
     first.CurrentY = sheetTopY;
     frmPaper.FrontOrder = 0;
+    forgetLines();
     ws.CurrentSheet = 0;
     ws.LineEndX = 0;
     ws.TypedEndX = 0;

@@ -32,9 +32,9 @@ struct PlacedLabel {
 };
 
 struct WorksheetLayout {
-    std::vector<int> types;  // the topics laid out so
-    const char* image;       // the figure in Picture3, or ""
-    std::vector<PlacedBox> boxes;
+    std::vector<int> types;        // the topics laid out so
+    const char* image;             // the figure in Picture3, or ""
+    std::vector<PlacedBox> boxes;  // in the order in which they are read
     std::vector<PlacedLabel> labels;
     // Of these boxes exactly one stays empty, the unknown; all other boxes want a number.
     std::vector<Control PaperWindow::*> unknowns;
@@ -44,6 +44,10 @@ struct WorksheetLayout {
 [[nodiscard]] const WorksheetLayout* layoutOf(int problemType);
 // A topic that is typed; false before any was chosen.
 [[nodiscard]] bool isOnPaper(int problemType);
+
+// The numbers of the boxes that the current topic shows, in the order in which they are read, which is
+// also that of Tab. e.g. in the right triangle those of a, b and c
+[[nodiscard]] std::vector<int> boxesAsRead();
 
 // The entries of Combo1 and Combo2 for a topic of metric units, and of Combo3 for rounding.
 // e.g. metersTopic -> "mm (0.001 meters)", ..., "km (1000 meters)"

@@ -4,7 +4,12 @@
 // drawn around these boxes: lengths that lie on a side have their box over it, heights and radii
 // inside, bases below. A label says what its box is to the solver: where the cube's boxes or the
 // triangle's are handed over in another order than they were numbered, the caption went with the box.
+//
+// The boxes of a row stand in the order in which they are read: a, b, c; length, width, height; what is
+// asked for by its name in a formula. Tab goes through them so.
 #include "WorksheetLayout.hpp"
+
+#include "Workspace.hpp"
 
 #include <algorithm>
 
@@ -22,22 +27,22 @@ constexpr const char* fractionBar = "______________________________";
 // clang-format off
 const std::vector<WorksheetLayout> layouts = {
     {{1}, "cube",
-        {{T1, 290, 166}, {T2, 220, 258}, {T3, 198, 72}},
+        {{T2, 220, 258}, {T3, 198, 72}, {T1, 290, 166}},
         {{L1, 220, 166, "height="}, {L2, 150, 258, "length="}, {L3, 128, 72, "width="}}, {}},
     {{2}, "cylinder",
-        {{T1, 255, 150}, {T2, 265, 40}},
+        {{T2, 265, 40}, {T1, 255, 150}},
         {{L1, 185, 150, "height="}, {L2, 325, 40, "=radius"}}, {}},
     {{3}, "cone",
-        {{T1, 250, 140}, {T2, 285, 216}},
+        {{T2, 285, 216}, {T1, 250, 140}},
         {{L1, 180, 140, "height="}, {L2, 215, 216, "radius="}}, {}},
     {{4}, "pyramid",
-        {{T1, 253, 130}, {T2, 275, 258}, {T3, 140, 240}},
+        {{T2, 275, 258}, {T3, 140, 240}, {T1, 253, 130}},
         {{L1, 183, 130, "height="}, {L2, 205, 258, "length="}, {L3, 70, 240, "width="}}, {}},
     {{5}, "sphere",
         {{T2, 280, 114}},
         {{L2, 210, 114, "radius="}}, {}},
     {{6, 13}, "rectangle",
-        {{T1, 300, 121}, {T2, 273, 240}},
+        {{T2, 273, 240}, {T1, 300, 121}},
         {{L1, 230, 121, "height="}, {L2, 203, 240, "base="}}, {}},
     {{7, 15, 17}, "circle",
         {{T2, 190, 114}},
@@ -46,24 +51,24 @@ const std::vector<WorksheetLayout> layouts = {
         {{T2, 190, 114}},
         {{L2, 248, 114, "=diameter"}}, {}},
     {{8}, "triangle",
-        {{T1, 258, 156}, {T2, 271, 242}},
+        {{T2, 271, 242}, {T1, 258, 156}},
         {{L1, 188, 156, "height="}, {L2, 201, 242, "base="}}, {}},
     {{19}, "triangle",
-        {{T1, 320, 82}, {T2, 228, 242}, {T3, 140, 82}},
+        {{T3, 140, 82}, {T2, 228, 242}, {T1, 320, 82}},
         {{L1, 255, 82, "c="}, {L2, 164, 242, "b="}, {L3, 81, 82, "a="}}, {}},
     {{9}, "parallelogram",
-        {{T1, 248, 120}, {T2, 231, 230}},
+        {{T2, 231, 230}, {T1, 248, 120}},
         {{L1, 178, 120, "height="}, {L2, 161, 230, "base="}}, {}},
     {{10}, "trapezoid",
-        {{T1, 228, 233}, {T2, 228, 26}, {T3, 250, 130}},
+        {{T2, 228, 26}, {T1, 228, 233}, {T3, 250, 130}},
         {{L1, 200, 233, "b="}, {L2, 200, 26, "a="}, {L3, 180, 130, "height="}}, {}},
     {{11}, "similartriangles",
-        {{T1, 145, 116}, {T2, 103, 222}, {T3, 37, 116}, {T4, 255, 116}, {T5, 345, 116}, {T6, 305, 222}},
+        {{T3, 37, 116}, {T2, 103, 222}, {T1, 145, 116}, {T4, 255, 116}, {T6, 305, 222}, {T5, 345, 116}},
         {{L1, 113, 116, "c1="}, {L2, 70, 222, "b1="}, {L3, 5, 116, "a1="},
          {L4, 219, 116, "a2="}, {L5, 310, 116, "c2="}, {L8, 270, 222, "b2="}},
         {T4, T5, T6}},
     {{12}, "righttriangle",
-        {{T1, 290, 104}, {T2, 213, 238}, {T4, 168, 150}},
+        {{T4, 168, 150}, {T2, 213, 238}, {T1, 290, 104}},
         {{L1, 263, 104, "c="}, {L2, 185, 238, "b="}, {L4, 140, 150, "a="}},
         {T1, T2, T4}},
     {{14}, "",
@@ -105,6 +110,18 @@ const WorksheetLayout* layoutOf(int problemType) {
 
 bool isOnPaper(int problemType) {
     return problemType > 0 && layoutOf(problemType) == nullptr;
+}
+
+std::vector<int> boxesAsRead() {
+    std::vector<int> numbers;
+    const WorksheetLayout* layout = layoutOf(ws.ProblemType);
+    if (layout == nullptr) return numbers;
+    for (const PlacedBox& placed : layout->boxes) {
+        for (int number = 1; number <= 6; ++number) {
+            if (&frmPaper.box(number) == &(frmPaper.*placed.box)) numbers.push_back(number);
+        }
+    }
+    return numbers;
 }
 
 }  // namespace ordwise

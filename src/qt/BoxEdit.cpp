@@ -18,14 +18,29 @@ void BoxEdit::showText(const QString& text) {
     if (!hasFocus()) end(false);
 }
 
+// Undo and redo are the frame's: they go over all boxes.
+bool BoxEdit::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<QKeyEvent&>(*event);
+        if (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return QLineEdit::event(event);
+}
+
 void BoxEdit::keyPressEvent(QKeyEvent* event) {
     const std::string key = keyTextOf(*event);
     if (!key.empty()) {
         onKey_(key);
         end(false);
     } else if (event->key() == Qt::Key_Delete || event->matches(QKeySequence::Cut) ||
-               event->matches(QKeySequence::Paste) || event->matches(QKeySequence::Undo)) {
+               event->matches(QKeySequence::Paste) || event->matches(QKeySequence::Undo) ||
+               event->matches(QKeySequence::Redo)) {
         event->accept();  // the box is changed key by key only
+    } else if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down || event->key() == Qt::Key_Escape) {
+        event->ignore();  // the desk chooses lines by them
     } else {
         QLineEdit::keyPressEvent(event);
     }

@@ -8,12 +8,15 @@
 #include "FrameMenus.hpp"
 #include "GuidedInput.hpp"
 #include "KeyText.hpp"
+#include "NotesView.hpp"
 #include "PictureButton.hpp"
 #include "PopUpMenu.hpp"
 #include "SheetPainter.hpp"
 #include "SheetView.hpp"
+#include "ShownLines.hpp"
 #include "Stage.hpp"
 #include "StepDisplay.hpp"
+#include "WorksheetLayout.hpp"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -21,6 +24,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace ordwise {
 
@@ -77,6 +81,20 @@ void follow(QTimer& timer, const TimerControl& control, bool allowed) {
     }
 }
 
+std::optional<DeskKey> deskKeyOf(const QKeyEvent& event) {
+    if ((event.modifiers() & ~Qt::KeypadModifier) != 0) return std::nullopt;
+    switch (event.key()) {
+        case Qt::Key_Up: return DeskKey::Up;
+        case Qt::Key_Down: return DeskKey::Down;
+        case Qt::Key_Home: return DeskKey::Home;
+        case Qt::Key_End: return DeskKey::End;
+        case Qt::Key_Escape: return DeskKey::Escape;
+        case Qt::Key_PageUp: return DeskKey::PageUp;
+        case Qt::Key_PageDown: return DeskKey::PageDown;
+        default: return std::nullopt;
+    }
+}
+
 QString lightName() {
     const std::string& key = frmPaper.Light.Image;
     if (key == "light2") return QStringLiteral("Input light: correct");
@@ -94,6 +112,7 @@ DeskView::DeskView(QWidget* parent, Stage& stage)
       click_(new PictureButton(this)),
       pencil_(new StillPicture(this)),
       deskPencil_(new StillPicture(this)),
+      notes_(nullptr),
       explanation_(nullptr) {
     setObjectName(QStringLiteral("frmPaper"));
     setFocusPolicy(Qt::StrongFocus);
@@ -101,6 +120,7 @@ DeskView::DeskView(QWidget* parent, Stage& stage)
     setPalette(QPalette(QColor(0xef, 0xef, 0xef)));  // paper stays light, also on a dark desktop
     for (int number = 0; number <= PaperWindow::lastSheet; ++number)
         sheets_[static_cast<std::size_t>(number)] = new SheetView(this, stage, number);
+    notes_ = new NotesView(this, stage);
     explanation_ = new ExplanationPopup(this, stage);
     light_->setObjectName(QStringLiteral("Light"));
     wizard_->setObjectName(QStringLiteral("Wizard"));
@@ -122,6 +142,11 @@ void DeskView::connectPictures() {
 
 void DeskView::setSteady(bool steady) {
     steady_ = steady;
+    showChanges();
+}
+
+void DeskView::setNotes(bool wanted) {
+    notesWanted_ = wanted;
     showChanges();
 }
 
@@ -149,14 +174,32 @@ QSizeF DeskView::deskSize() {
     return {deskWidth + last * step, std::max(deskHeight, sheetsTop + last * step + paperHeight() + SheetView::shadow)};
 }
 
-void DeskView::fitScale() {
-    const QSizeF desk = deskSize();
+double DeskView::fittingScale(const QSizeF& desk) const {
     const double fit = std::min(viewport_.width() / desk.width(), viewport_.height() / desk.height());
-    scale_ = std::clamp(fit * zoom_, smallestScale, largestScale);
+    return std::clamp(fit * zoom_, smallestScale, largestScale);
+}
+
+void DeskView::fitScale() {
+    scale_ = fittingScale(deskSize());
+}
+
+// Whether notes have room beside the sheets is asked of a desk with one sheet: where they stand changes
+// how many sheets there are, and the answer must not change with it. A pile leaves more room, not less.
+void DeskView::findRoomForNotes() {
+    constexpr double gap = 12;
+    const double onOne = viewport_.width() / fittingScale({deskWidth, deskHeight}) - deskWidth - gap;
+    const QSizeF desk = deskSize();
+    const double room = viewport_.width() / fittingScale(desk) - desk.width() - gap;
+    // On a small desk the letters are larger, so that they can be read.
+    const double wanted = usualNotesWidth * std::clamp(0.85 / fittingScale(desk), 1.0, 1.4);
+    placeNotes(notesWanted_ && frmPaper.Loaded, desk.width(), onOne < leastNotesWidth ? 0 : std::min(room, wanted));
 }
 
 void DeskView::showChanges() {
     if (steady_) finishAnimations();
+    const NotesPlace before = frmPaper.Notes;
+    findRoomForNotes();
+    if (frmPaper.Notes != before) findRoomForNotes();  // there may be more sheets now, or fewer
     fitScale();
     growToSheets();
     for (SheetView* sheet : sheets_) sheet->showChanges(scale_, steady_);
@@ -164,10 +207,18 @@ void DeskView::showChanges() {
         for (SheetView* sheet : sheets_) sheet->hide();
     }
     showPictures();
+    notes_->showChanges(scale_);
     explanation_->showChanges(scale_);
     stackWindows();
     runTimers();
+    giveKeyboard();
     announce();
+}
+
+void DeskView::giveKeyboard() {
+    if (frmPaper.KeyboardBox == 0) return;
+    sheet(0).figure()->box(frmPaper.KeyboardBox).setFocus(Qt::OtherFocusReason);
+    frmPaper.KeyboardBox = 0;
 }
 
 void DeskView::growToSheets() {
@@ -224,6 +275,7 @@ void DeskView::stackWindows() {
         sheet(number).raise();
         if (number == 0) pencil_->raise();
     }
+    notes_->raise();
     light_->raise();
     wizard_->raise();
     click_->raise();
@@ -255,14 +307,24 @@ void DeskView::announce() {
 }
 
 void DeskView::takeKeys() {
-    if (frmPaper.Picture3.Visible) {
-        for (int number = 1; number <= 6; ++number) {
-            if (!frmPaper.box(number).Visible) continue;
-            sheet(0).figure()->box(number).setFocus(Qt::OtherFocusReason);
-            return;
-        }
-    }
-    setFocus(Qt::OtherFocusReason);
+    const std::vector<int> boxes = boxesAsRead();
+    if (boxes.empty()) return setFocus(Qt::OtherFocusReason);
+    sheet(0).figure()->box(boxes.front()).setFocus(Qt::OtherFocusReason);
+}
+
+void DeskView::orderTabs() {
+    QWidget* last = this;
+    const auto add = [&last](QWidget& next) {
+        setTabOrder(last, &next);
+        last = &next;
+    };
+    const FigureView& figure = *sheet(0).figure();
+    for (const int number : boxesAsRead()) add(figure.box(number));
+    add(figure.combo(1));
+    add(figure.combo(2));
+    add(*sheet(0).roundingList());
+    for (const SheetView* sheet : sheets_) add(sheet->blinker());
+    for (PictureButton* picture : {light_, wizard_, click_}) add(*picture);
 }
 
 void DeskView::paintEvent(QPaintEvent*) {
@@ -271,6 +333,12 @@ void DeskView::paintEvent(QPaintEvent*) {
 }
 
 void DeskView::keyPressEvent(QKeyEvent* event) {
+    if (const std::optional<DeskKey> deskKey = deskKeyOf(*event)) {
+        bool done = false;
+        stage_.perform([&] { done = Desk_KeyDown(*deskKey); });
+        if (!done) QWidget::keyPressEvent(event);
+        return;
+    }
     const std::string key = keyTextOf(*event);
     if (key.empty() || !frmPaper.Loaded) {
         QWidget::keyPressEvent(event);
@@ -314,7 +382,17 @@ void DeskView::askForMenu(QObject* of, const QPoint& place) {
 }
 
 bool DeskView::eventFilter(QObject* watched, QEvent* event) {
-    return rightClick(watched, *event) || (watched == wizard_ && wizardMouse(*event));
+    return rightClick(watched, *event) || pictureEnter(*event) || (watched == wizard_ && wizardMouse(*event));
+}
+
+// Enter solves or steps from a picture, too; it presses the picture only where there is nothing to run.
+bool DeskView::pictureEnter(const QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const int key = static_cast<const QKeyEvent&>(event).key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
+    bool run = false;
+    stage_.perform([&run] { run = Picture_Enter(); });
+    return run;
 }
 
 // The right button, and the key for menus while the picture has the keyboard.

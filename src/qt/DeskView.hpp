@@ -14,6 +14,7 @@
 namespace ordwise {
 
 class ExplanationPopup;
+class NotesView;
 class PictureButton;
 class SheetView;
 class Stage;
@@ -32,6 +33,10 @@ public:
     void setSteady(bool steady);
     [[nodiscard]] bool steady() const { return steady_; }
 
+    // The notes of a solution stand beside its lines, or under them in a narrow window.
+    void setNotes(bool wanted);
+    [[nodiscard]] bool notes() const { return notesWanted_; }
+
     // 1 fits the desk into the window.
     void setZoom(double zoom);
     [[nodiscard]] double zoom() const { return zoom_; }
@@ -49,6 +54,8 @@ public:
     // Opens a hidden menu of the main window where the mouse or the key asked for it. e.g. "mnuHidden"
     void popUp(std::string_view menu);
 
+    // Tab goes through the boxes as they are read, then the lists, Next Step, and what lies beside.
+    void orderTabs();
     // Takes the keyboard: the first box of a box topic, otherwise the desk itself.
     void takeKeys();
     // The part of the desk that the window shows has this size.
@@ -65,11 +72,15 @@ protected:
 private:
     void connectPictures();
     [[nodiscard]] static QSizeF deskSize();
+    [[nodiscard]] double fittingScale(const QSizeF& desk) const;
     void fitScale();
+    void findRoomForNotes();
     void growToSheets();
     void showPictures();
     void stackWindows();
     void runTimers();
+    void giveKeyboard();
+    bool pictureEnter(const QEvent& event);
     void announce();
     bool wizardMouse(const QEvent& event);
     bool rightClick(QObject* watched, QEvent& event);
@@ -81,12 +92,14 @@ private:
     double scale_ = 1;
     QSize viewport_;
     bool steady_ = false;
+    bool notesWanted_ = false;
     std::array<SheetView*, PaperWindow::lastSheet + 1> sheets_{};
     PictureButton* light_;
     PictureButton* wizard_;
     PictureButton* click_;
     StillPicture* pencil_;
     StillPicture* deskPencil_;
+    NotesView* notes_;
     ExplanationPopup* explanation_;
     std::array<int, PaperWindow::lastSheet + 1> stacked_{};  // sheets from the lowest to the foremost
     std::array<QTimer, 5> timers_;

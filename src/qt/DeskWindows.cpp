@@ -11,12 +11,14 @@
 #include "PracticeTestDialog.hpp"
 #include "PrintPreviewDialog.hpp"
 #include "PrintSetupDialog.hpp"
+#include "ShortcutsDialog.hpp"
 #include "SplashCard.hpp"
 #include "Stage.hpp"
 #include "WindowRoutines.hpp"
 
 #include <QApplication>
 #include <QDialog>
+#include <QShortcut>
 
 #include <algorithm>
 #include <iterator>
@@ -29,6 +31,13 @@ template <class Dialog>
 QWidget* makeDialog(FrameWindow& frame, Stage& stage) {
     QWidget* const inFront = QApplication::activeModalWidget();
     return new Dialog(inFront == nullptr ? &frame : inFront, stage);
+}
+
+// Every window closes by the key that closes windows.
+void closeByKey(QWidget& window) {
+    if (!window.isWindow()) return;
+    auto* shortcut = new QShortcut(QKeySequence::Close, &window);
+    QObject::connect(shortcut, &QShortcut::activated, &window, &QWidget::close);
 }
 
 }  // namespace
@@ -48,6 +57,8 @@ const DeskWindows::Row DeskWindows::rows[] = {
     {"frmGraph", false, [](FrameWindow& frame, Stage& stage) -> QWidget* { return new GraphView(frame, stage); }},
     {"frmAbout", true, makeDialog<AboutDialog>},
     {"frmHelp", false, [](FrameWindow& frame, Stage& stage) -> QWidget* { return new HelpDialog(&frame, stage); }},
+    {"frmShortcuts", false,
+     [](FrameWindow& frame, Stage& stage) -> QWidget* { return new ShortcutsDialog(&frame, stage); }},
     {"frmLogo", false, [](FrameWindow& frame, Stage& stage) -> QWidget* { return new SplashCard(&frame, stage); }},
 };
 
@@ -67,6 +78,7 @@ void DeskWindows::show(std::string_view name) {
 void DeskWindows::runModal(const Row& row) {
     stage_.show();
     const QPointer<QWidget> widget = row.make(frame_, stage_);
+    closeByKey(*widget);
     open_[std::string(row.name)] = widget;
     auto* dialog = qobject_cast<QDialog*>(widget);
     Q_ASSERT(dialog != nullptr);
@@ -78,7 +90,10 @@ void DeskWindows::runModal(const Row& row) {
 
 void DeskWindows::showBeside(const Row& row) {
     QPointer<QWidget>& widget = open_[std::string(row.name)];
-    if (widget.isNull()) widget = row.make(frame_, stage_);
+    if (widget.isNull()) {
+        widget = row.make(frame_, stage_);
+        closeByKey(*widget);
+    }
     widget->setWindowState(widget->windowState() & ~Qt::WindowMinimized);
     // A graph that a solve opens leaves the keyboard to the paper.
     const bool takesKeys = row.name != "frmGraph" || frmGraph.AskedFor;

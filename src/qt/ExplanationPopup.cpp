@@ -99,14 +99,20 @@ void ExplanationPopup::focusOutEvent(QFocusEvent* event) {
     if (event->reason() != Qt::PopupFocusReason && frmExplain.Loaded) close();
 }
 
-// Esc and Enter only close; a typed key goes on to the paper, where it was meant for.
+// Keys that choose another line or fetch another sheet.
+bool isForDesk(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown;
+}
+
+// Esc and Enter only close; a typed key goes on to the paper, where it was meant for, and so do the
+// keys of the desk.
 void ExplanationPopup::keyPressEvent(QKeyEvent* event) {
     const bool modifierAlone = event->key() == Qt::Key_Shift || event->key() == Qt::Key_Control ||
                                event->key() == Qt::Key_Alt || event->key() == Qt::Key_Meta;
     if (modifierAlone) return;
     const bool typed = event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter && !keyTextOf(*event).empty();
     close();
-    if (typed) QCoreApplication::sendEvent(parentWidget(), event);
+    if (typed || isForDesk(event->key())) QCoreApplication::sendEvent(parentWidget(), event);
 }
 
 void ExplanationPopup::close() {

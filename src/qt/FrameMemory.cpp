@@ -7,6 +7,7 @@ namespace ordwise {
 namespace {
 
 const QString placeKey = QStringLiteral("Frame/place");
+const QString notesKey = QStringLiteral("Frame/notesBesideLines");
 const QString steadyKey = QStringLiteral("Frame/steadySignals");
 const QString wordsKey = QStringLiteral("Frame/wordsOnButtons");
 
@@ -49,6 +50,14 @@ std::optional<bool> FrameMemory::wordsOnButtons() const {
 
 void FrameMemory::keepWordsOnButtons(bool words) const {
     keepChoice(wordsKey, words);
+}
+
+bool FrameMemory::notesBesideLines() const {
+    return choice(notesKey).value_or(false);
+}
+
+void FrameMemory::keepNotesBesideLines(bool wanted) const {
+    keepChoice(notesKey, wanted);
 }
 
 }  // namespace ordwise

@@ -1,5 +1,5 @@
-// What the frame remembers by itself from one start to the next: its place on the screen and whether
-// what the View menu has switched. It lies beside the recent problems; where there is no place for it, the
+// What the frame remembers by itself from one start to the next: its place on the screen and what the
+// View menu has switched. It lies beside the recent problems; where there is no place for it, the
 // frame starts as a new one.
 #pragma once
 
@@ -25,6 +25,9 @@ public:
     void keepSteadySignals(bool steady) const;
     [[nodiscard]] std::optional<bool> wordsOnButtons() const;
     void keepWordsOnButtons(bool words) const;
+    // Not until the user wishes it.
+    [[nodiscard]] bool notesBesideLines() const;
+    void keepNotesBesideLines(bool wanted) const;
 
 private:
     [[nodiscard]] std::optional<bool> choice(const QString& key) const;

@@ -14,85 +14,90 @@ void insertKey() {
 
 MenuTable fileMenu() {
     return {&frmMain.mnuFile,
-            {{&frmMain.mnuNew, mnuNew_Click, QKeySequence::New},
+            {{&frmMain.mnuNew, mnuNew_Click},
              {},
-             {&frmMain.mnuPrint, mnuPrint_Click, QKeySequence::Print},
-             {&frmMain.mnuPrintSetup, mnuPrintSetup_Click, {}},
+             {&frmMain.mnuPrint, mnuPrint_Click},
+             {&frmMain.mnuPrintSetup, mnuPrintSetup_Click},
              {},
-             {&frmMain.mnuSave, mnuSave_Click, QKeySequence::Save},
-             {&frmMain.mnuLoad, mnuLoad_Click, QKeySequence::Open},
-             {&frmMain.mnuRecent, nullptr, {}},
+             {&frmMain.mnuSave, mnuSave_Click},
+             {&frmMain.mnuLoad, mnuLoad_Click},
+             {&frmMain.mnuRecent, nullptr},
+             {&frmMain.mnuClose, mnuClose_Click},
              {},
-             {&frmMain.mnuExit, nullptr, QKeySequence::Quit}}};
+             {&frmMain.mnuExit, nullptr}}};
+}
+
+MenuTable editMenu() {
+    return {&frmMain.mnuEdit, {{&frmMain.mnuUndo, mnuUndo_Click}, {&frmMain.mnuRedo, mnuRedo_Click}}};
 }
 
 MenuTable toolsMenu() {
     return {&frmMain.mnuCreate,
-            {{&frmMain.mnuSolve, mnuSolve_Click, Qt::Key_F5},
-             {&frmMain.mnuExample, mnuExample_Click, Qt::Key_F6},
-             {&frmMain.mnuErase, mnuErase_Click, QKeySequence(Qt::CTRL | Qt::Key_Delete)},
+            {{&frmMain.mnuSolve, mnuSolve_Click},
+             {&frmMain.mnuExample, mnuExample_Click},
+             {&frmMain.mnuErase, mnuErase_Click},
              {},
-             {&frmMain.mnuGraph, mnuGraph_Click, QKeySequence(Qt::CTRL | Qt::Key_G)},
-             {&frmMain.mnuPracticeTest, mnuPracticeTest_Click, QKeySequence(Qt::CTRL | Qt::Key_T)},
+             {&frmMain.mnuGraph, mnuGraph_Click},
+             {&frmMain.mnuPracticeTest, mnuPracticeTest_Click},
              {},
-             {&frmMain.mnuExp, mnuExp_Click, Qt::Key_F2}}};
+             {&frmMain.mnuExp, mnuExp_Click}}};
 }
 
 MenuTable functionsMenu() {
     return {&frmMain.mnuSpecial,
-            {{&frmMain.mnuSquareRoot, insertKey<'~'>, QKeySequence(Qt::CTRL | Qt::Key_R)},
-             {&frmMain.mnuExponet, insertKey<'^'>, QKeySequence(Qt::CTRL | Qt::Key_E)},
-             {&frmMain.mnuAbsValue, insertKey<'|'>, {}},
+            {{&frmMain.mnuSquareRoot, insertKey<'~'>},
+             {&frmMain.mnuExponet, insertKey<'^'>},
+             {&frmMain.mnuAbsValue, insertKey<'|'>},
              {},
-             {&frmMain.mnuAddition, insertKey<'+'>, {}},
-             {&frmMain.mnuSubtraction, insertKey<'-'>, {}},
-             {&frmMain.mnuMultiplication, insertKey<'*'>, {}},
-             {&frmMain.mnuDivision, insertKey<'/'>, {}},
+             {&frmMain.mnuAddition, insertKey<'+'>},
+             {&frmMain.mnuSubtraction, insertKey<'-'>},
+             {&frmMain.mnuMultiplication, insertKey<'*'>},
+             {&frmMain.mnuDivision, insertKey<'/'>},
              {},
-             {&frmMain.mnuConvertDF, mnuConvertDF_Click, {}}}};
+             {&frmMain.mnuConvertDF, mnuConvertDF_Click}}};
 }
 
 MenuTable optionsMenu() {
     return {&frmMain.mnuOptions,
-            {{&frmMain.mnuPencil, mnuPencil_Click, {}, true},
-             {&frmMain.mnuShowStep, mnuShowStep_Click, {}, true},
-             {&frmMain.mnuHideWiz, mnuHideWiz_Click, {}, true},
-             {&frmMain.mnuShowLight, mnuShowLight_Click, {}, true},
+            {{&frmMain.mnuPencil, mnuPencil_Click, true},
+             {&frmMain.mnuShowStep, mnuShowStep_Click, true},
+             {&frmMain.mnuHideWiz, mnuHideWiz_Click, true},
+             {&frmMain.mnuShowLight, mnuShowLight_Click, true},
              {},
-             {&frmMain.mnuChange, mnuChange_Click, {}}}};
+             {&frmMain.mnuChange, mnuChange_Click}}};
 }
 
 MenuTable helpMenu() {
     return {&frmMain.mnuHelp,
-            {{&frmMain.mnuHelpTopics, mnuHelpTopics_Click, QKeySequence::HelpContents},
+            {{&frmMain.mnuHelpTopics, mnuHelpTopics_Click},
+             {&frmMain.mnuShortcuts, mnuShortcuts_Click},
              {},
              {&frmMain.mnuWeb,
               nullptr,
-              {},
               false,
-              {{&frmMain.mnuAlgSol, mnuAlgSol_Click, {}}, {&frmMain.mnuHomePage, mnuHomePage_Click, {}}}},
-             {&frmMain.mnuOnlineSupport, mnuOnlineSupport_Click, {}},
+              {{&frmMain.mnuAlgSol, mnuAlgSol_Click}, {&frmMain.mnuHomePage, mnuHomePage_Click}}},
+             {&frmMain.mnuOnlineSupport, mnuOnlineSupport_Click},
              {},
-             {&frmMain.mnuAbout, mnuAbout_Click, {}}}};
+             {&frmMain.mnuAbout, mnuAbout_Click}}};
 }
 
 }  // namespace
 
 std::vector<MenuTable> frameMenus() {
-    return {fileMenu(), toolsMenu(), functionsMenu(), optionsMenu(), helpMenu()};
+    return {fileMenu(), editMenu(), toolsMenu(), functionsMenu(), optionsMenu(), helpMenu()};
 }
 
 MenuTable assistantPopUp() {
     return {&frmMain.mnuHidden,
-            {{&frmMain.mnuHide, mnuHide_Click, {}}, {}, {&frmMain.mnuHideOptions, mnuHideOptions_Click, {}}}};
+            {{&frmMain.mnuHide, mnuHide_Click}, {}, {&frmMain.mnuHideOptions, mnuHideOptions_Click}}};
 }
 
 MenuTable pencilPopUp() {
-    return {&frmMain.mnuHidden2, {{&frmMain.mnuUsePencil, mnuUsePencil_Click, {}, true}}};
+    return {&frmMain.mnuHidden2, {{&frmMain.mnuUsePencil, mnuUsePencil_Click, true}}};
 }
 
 MenuTable lightPopUp() {
-    return {&frmMain.mnuHidden3, {{&frmMain.mnuHideLight, mnuHideLight_Click, {}}}};
+    return {&frmMain.mnuHidden3, {{&frmMain.mnuHideLight, mnuHideLight_Click}}};
 }
 
 std::vector<ToolRow> toolbarRows() {

@@ -1,10 +1,8 @@
 // The menus and the toolbar of the frame as tables: which control or button stands where, what it
-// runs and by which keys.
+// runs. Its keys stand in the list of all shortcuts.
 #pragma once
 
 #include "Windows.hpp"
-
-#include <QKeySequence>
 
 #include <vector>
 
@@ -17,7 +15,6 @@ using Routine = void (*)();
 struct MenuRow {
     const Control* control = nullptr;
     Routine routine = nullptr;
-    QKeySequence keys;
     bool checkable = false;
     std::vector<MenuRow> below = {};
 };

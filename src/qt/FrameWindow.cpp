@@ -3,11 +3,15 @@
 #include "Art.hpp"
 #include "DeskEvents.hpp"
 #include "DeskView.hpp"
+#include "FrameCommands.hpp"
 #include "FrameMenus.hpp"
+#include "Mnemonics.hpp"
 #include "Motion.hpp"
 #include "RecentMenu.hpp"
 #include "RecentProblems.hpp"
 #include "SheetView.hpp"
+#include "Shortcuts.hpp"
+#include "ShownLines.hpp"
 #include "StatusLine.hpp"
 #include "WelcomeCard.hpp"
 #include "Workspace.hpp"
@@ -96,13 +100,14 @@ FrameWindow::FrameWindow()
     setCentralWidget(scroll_);
     statusBar()->addWidget(status_, 1);
     addMenus();
+    giveMnemonics();
     addToolbar();
     welcome_ = new WelcomeCard(desk_, actionOf(frmMain.mnuNew), actionOf(frmMain.mnuLoad),
                                actionOf(frmMain.mnuPracticeTest), actionOf(frmMain.mnuHelpTopics));
     setAcceptDrops(true);
     takePlace();
     showChanges();
-    desk_->setFocus();
+    welcome_->takeKeys();
 }
 
 void FrameWindow::takePlace() {
@@ -124,6 +129,12 @@ void FrameWindow::addMenus() {
     }
 }
 
+// Within the bar and within each menu no two commands share their letter.
+void FrameWindow::giveMnemonics() {
+    giveOwnMnemonics(*menuBar());
+    for (QAction* menu : menuBar()->actions()) giveOwnMnemonics(*menu->menu());
+}
+
 void FrameWindow::addMenuRows(QMenu& menu, const std::vector<MenuRow>& rows) {
     menu.setToolTipsVisible(true);
     for (const MenuRow& row : rows) addMenuRow(menu, row);
@@ -143,7 +154,7 @@ void FrameWindow::addMenuRow(QMenu& menu, const MenuRow& row) {
         return;
     }
     QAction* action = menu.addAction(qstringOf(row.control->Text));
-    action->setShortcut(row.keys);
+    action->setShortcut(QKeySequence(qstringOf(keysOf(*row.control))));
     action->setCheckable(row.checkable);
     if (row.control == &frmMain.mnuExit) {
         connect(action, &QAction::triggered, this, &QWidget::close);
@@ -177,6 +188,16 @@ void FrameWindow::addViewMenu() {
     connect(words_, &QAction::toggled, this, [this](bool on) {
         memory_.keepWordsOnButtons(on);
         fitToolbar();
+    });
+    desk_->setNotes(memory_.notesBesideLines());
+    QAction* notes = view->addAction(QStringLiteral("Explanations Beside the &Lines"));
+    notes->setCheckable(true);
+    notes->setChecked(desk_->notes());
+    notes->setObjectName(QStringLiteral("notesBesideLines"));
+    connect(notes, &QAction::toggled, this, [this](bool on) {
+        desk_->setNotes(on);
+        memory_.keepNotesBesideLines(on);
+        stage_.perform([on] { notesWished(on); });
     });
 }
 
@@ -269,6 +290,27 @@ void FrameWindow::showChanges() {
         sheetInView_ = ws.CurrentSheet;
         followLine();
     }
+    followChoice();
+}
+
+// The same for a line that was chosen, and for a sheet that was fetched.
+void FrameWindow::followChoice() {
+    const int front = sheetInFront();
+    const bool chosen = frmPaper.ChosenLine != chosenInView_ && frmPaper.ChosenLine >= 0;
+    const bool fetched = front != frontInView_;
+    chosenInView_ = frmPaper.ChosenLine;
+    frontInView_ = front;
+    const double scale = desk_->scale();
+    const Sheet& sheet = frmPaper.Paper[front];
+    if (chosen) {
+        const ShownLine& line = frmPaper.Lines[static_cast<std::size_t>(frmPaper.ChosenLine)];
+        scroll_->ensureVisible(static_cast<int>((sheet.Left + 54) * scale),
+                               static_cast<int>((sheet.Top + line.Bottom) * scale), 60, 60);
+        scroll_->ensureVisible(static_cast<int>((sheet.Left + 54) * scale),
+                               static_cast<int>((sheet.Top + line.Top) * scale), 60, 60);
+    } else if (fetched && frmPaper.Loaded) {
+        scroll_->ensureVisible(static_cast<int>(sheet.Left * scale), static_cast<int>(sheet.Top * scale), 20, 20);
+    }
 }
 
 // The end of the last line stays in view when the desk is larger than the window.
@@ -308,6 +350,7 @@ void FrameWindow::showFreshSheets() {
     sheetInView_ = 0;
     status_->startAfresh();
     stage_.show();
+    desk_->orderTabs();
     desk_->takeKeys();
 }
 

@@ -56,6 +56,7 @@ protected:
 private:
     void takePlace();
     void addMenus();
+    void giveMnemonics();
     void addMenuRows(QMenu& menu, const std::vector<MenuRow>& rows);
     void addMenuRow(QMenu& menu, const MenuRow& row);
     void addViewMenu();
@@ -65,6 +66,7 @@ private:
     [[nodiscard]] QAction* commandOf(int button) const;
     void zoomBy(double factor);
     void followLine();
+    void followChoice();
 
     Stage stage_;
     QtDialogs dialogs_;
@@ -88,6 +90,8 @@ private:
     std::vector<std::pair<const Control*, QAction*>> menuActions_;
     std::vector<std::pair<int, QAction*>> toolActions_;
     int sheetInView_ = 0;
+    int frontInView_ = 0;
+    int chosenInView_ = -1;
 };
 
 }  // namespace ordwise

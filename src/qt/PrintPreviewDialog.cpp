@@ -100,6 +100,8 @@ void PrintPreviewDialog::addShortcuts() {
     const auto shortcut = [this](const QKeySequence& keys, const std::function<void()>& act) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
     };
+    // Not the button's own shortcut: that would take the place of its underlined letter.
+    shortcut(QKeySequence::Print, [this] { stage_.perform(frmPrintPreview_Command1_Click); });
     shortcut(Qt::Key_PageUp, [this] { stage_.perform(frmPrintPreview_Command4_Click); });
     shortcut(Qt::Key_PageDown, [this] { stage_.perform(frmPrintPreview_Command5_Click); });
     shortcut(Qt::Key_Home, [this] { stage_.perform([] { showPreviewPage(0); }); });
@@ -120,11 +122,10 @@ void PrintPreviewDialog::addButtons() {
         button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [this, click] { stage_.perform(click); });
         foot->addWidget(button);
-        return button;
     };
     foot->addWidget(device_, 1);
     add(QStringLiteral("Print &Setup..."), "Command3", frmPrintPreview_Command3_Click);
-    add(QStringLiteral("&Print"), "Command1", frmPrintPreview_Command1_Click)->setShortcut(QKeySequence::Print);
+    add(QStringLiteral("&Print"), "Command1", frmPrintPreview_Command1_Click);
     add(QStringLiteral("E&xit"), "Command2", frmPrintPreview_Command2_Click);
     static_cast<QVBoxLayout*>(layout())->addLayout(foot);
 }

@@ -11,6 +11,7 @@
 #include "StepDisplay.hpp"
 #include "WorksheetBoxes.hpp"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -45,6 +46,16 @@ QString captionOf(const Control& box) {
 QString boxName(int number) {
     const QString caption = captionOf(frmPaper.box(number));
     return caption.isEmpty() ? QStringLiteral("Box %1").arg(number) : caption;
+}
+
+// Where the one list differs from the other, which it becomes.
+QRectF takeOver(DisplayList& shown, const DisplayList& now) {
+    const auto [old, fresh] = std::mismatch(shown.begin(), shown.end(), now.begin(), now.end());
+    QRectF changed;
+    for (auto operation = old; operation != shown.end(); ++operation) changed |= extentOf(*operation);
+    for (auto operation = fresh; operation != now.end(); ++operation) changed |= extentOf(*operation);
+    if (!changed.isEmpty()) shown = now;
+    return changed;
 }
 
 }  // namespace
@@ -113,6 +124,7 @@ void FigureView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.scale(scale_, scale_);
     paintFigure(painter);
+    replay(frmPaper.BoxMarks, painter);
 }
 
 // A press beside the boxes takes hold of the sheet.
@@ -161,15 +173,15 @@ void SheetView::showChanges(double scale, bool steady) {
     }
 }
 
-// Paints anew only where the drawing differs from the one shown before.
+// Paints anew only where drawing and marks differ from those shown before.
 void SheetView::showLines() {
-    const DisplayList& drawn = frmPaper.Paper[number_].drawn();
-    const auto [before, now] = std::mismatch(shown_.begin(), shown_.end(), drawn.begin(), drawn.end());
-    QRectF changed;
-    for (auto operation = before; operation != shown_.end(); ++operation) changed |= extentOf(*operation);
-    for (auto operation = now; operation != drawn.end(); ++operation) changed |= extentOf(*operation);
+    const Sheet& sheet = frmPaper.Paper[number_];
+    const QRectF changed = takeOver(shown_, sheet.drawn()) | takeOver(shownMarks_, sheet.Marks);
     if (changed.isEmpty()) return;
-    shown_ = drawn;
+    repaintPart(changed);
+}
+
+void SheetView::repaintPart(QRectF changed) {
     changed.translate(shadow, shadow);
     update(QRectF(changed.topLeft() * scale_, changed.size() * scale_).toAlignedRect().adjusted(-1, -1, 1, 1));
 }
@@ -216,6 +228,7 @@ void SheetView::paintEvent(QPaintEvent*) {
     painter.drawPixmap(0, 0, background());
     painter.scale(scale_, scale_);
     painter.translate(shadow, shadow);
+    replay(frmPaper.Paper[number_].Marks, painter);
     replay(frmPaper.Paper[number_].drawn(), painter);
 }
 
@@ -223,11 +236,15 @@ void SheetView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
     parentWidget()->setFocus(Qt::MouseFocusReason);
     grab_ = event->globalPosition();
-    dragged_ = true;
+    pressed_ = true;
+    dragged_ = false;
     stage_.perform([this] { Paper_MouseDown(number_); });
 }
 
 void SheetView::mouseMoveEvent(QMouseEvent* event) {
+    if (!pressed_) return;
+    const QPointF moved = event->globalPosition() - grab_;
+    dragged_ = dragged_ || moved.manhattanLength() >= QApplication::startDragDistance();
     if (!dragged_) return;
     const QPointF by = (event->globalPosition() - grab_) / scale_;
     grab_ = event->globalPosition();
@@ -236,7 +253,9 @@ void SheetView::mouseMoveEvent(QMouseEvent* event) {
 
 void SheetView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
-    dragged_ = false;
+    const bool clicked = pressed_ && !dragged_;
+    pressed_ = false;
+    if (clicked) stage_.perform([&] { Paper_Click(number_, event->position().y() / scale_ - shadow); });
 }
 
 }  // namespace ordwise

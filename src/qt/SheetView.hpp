@@ -58,19 +58,22 @@ protected:
 private:
     void showBlinker(double scale, bool steady);
     void showLines();
+    void repaintPart(QRectF changed);
     [[nodiscard]] const QPixmap& background();
 
     Stage& stage_;
     int number_;
     double scale_ = 1;
     DisplayList shown_;
+    DisplayList shownMarks_;
     QString shownTitle_;
     QPixmap background_;  // the empty paper with its shadow, as long as size and title stay
     PictureButton* blinker_;
     FigureView* figure_ = nullptr;   // on the first sheet
     QComboBox* rounding_ = nullptr;  // on the first sheet
     QPointF grab_;
-    bool dragged_ = false;
+    bool pressed_ = false;
+    bool dragged_ = false;  // a press that has moved less is a click
 };
 
 // A list as the logic has it, at its place.

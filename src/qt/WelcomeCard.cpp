@@ -5,7 +5,7 @@
 
 #include <QAction>
 #include <QCommandLinkButton>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -15,6 +15,31 @@ namespace {
 
 constexpr int shadow = 6;
 constexpr int leastWidth = 360;
+
+// A way to begin: it takes Enter and shows that it has the keyboard; the arrows go from one to the next.
+class Way : public QCommandLinkButton {
+public:
+    using QCommandLinkButton::QCommandLinkButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        switch (event->key()) {
+            case Qt::Key_Return:
+            case Qt::Key_Enter: click(); break;
+            case Qt::Key_Down: focusNextChild(); break;
+            case Qt::Key_Up: focusPreviousChild(); break;
+            default: QCommandLinkButton::keyPressEvent(event);
+        }
+    }
+    void paintEvent(QPaintEvent* event) override {
+        QCommandLinkButton::paintEvent(event);
+        if (!hasFocus()) return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(QColor(0x1f, 0x5f, 0xc0), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
+    }
+};
 
 }  // namespace
 
@@ -43,7 +68,8 @@ WelcomeCard::WelcomeCard(QWidget* desk, QAction* newProblem, QAction* load, QAct
 }
 
 void WelcomeCard::addWay(QAction* action, const char* image, const char* description) {
-    auto* way = new QCommandLinkButton(action->text(), QString::fromLatin1(description), this);
+    // Without the letter that it has in its menu: here the menu bar has taken some of them.
+    auto* way = new Way(action->text().remove(QLatin1Char('&')), QString::fromLatin1(description), this);
     way->setIcon(artIcon(image));
     way->setIconSize(QSize(32, 32));
     way->setToolTip(action->shortcut().toString(QKeySequence::NativeText));
@@ -55,6 +81,11 @@ void WelcomeCard::showChanges() {
     if (isHidden() != waysToBeginAreOffered()) return;
     setVisible(waysToBeginAreOffered());
     centre();
+    if (!isHidden()) takeKeys();
+}
+
+void WelcomeCard::takeKeys() {
+    if (auto* first = findChild<QAbstractButton*>(); first != nullptr) first->setFocus(Qt::OtherFocusReason);
 }
 
 void WelcomeCard::centre() {

@@ -15,6 +15,8 @@ public:
 
     // There as long as no worksheet is.
     void showChanges();
+    // The first way has the keyboard.
+    void takeKeys();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

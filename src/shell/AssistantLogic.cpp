@@ -2,6 +2,7 @@
 
 #include "NumberText.hpp"
 #include "Platform.hpp"
+#include "ShownLines.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
 
@@ -28,7 +29,7 @@ constexpr double lift = 134;       // of the pencil after its last stroke
 constexpr double freeBorder = 65;  // so far from the left of the sheet it goes back as it is lifted
 
 bool hasNote() {
-    return !ws.StepNotes[ws.ShownStep].empty();
+    return !noteInView().empty();
 }
 
 void explainStepInView() {

@@ -7,7 +7,9 @@
 #include "Platform.hpp"
 #include "RecentProblems.hpp"
 #include "SavedProblems.hpp"
+#include "ShownLines.hpp"
 #include "SolveDriver.hpp"
+#include "TypingHistory.hpp"
 #include "WebPages.hpp"
 #include "Windows.hpp"
 #include "WorksheetErase.hpp"
@@ -33,6 +35,20 @@ void mnuNew_Click() {
     ws.ChooserClosed = false;
 }
 
+void mnuClose_Click() {
+    keepLastProblem();
+    platform.windows->unload("frmGraph");
+    platform.windows->unload("frmPaper");
+}
+
+void mnuUndo_Click() {
+    undoKey();
+}
+
+void mnuRedo_Click() {
+    redoKey();
+}
+
 void mnuSolve_Click() {
     compute_Click();
 }
@@ -50,7 +66,7 @@ void mnuErase_Click() {
 }
 
 void mnuExp_Click() {
-    if (!ws.StepNotes[ws.ShownStep].empty()) platform.windows->show("frmExplain");
+    if (!noteInView().empty()) platform.windows->show("frmExplain");
 }
 
 void mnuPrint_Click() {
@@ -101,6 +117,10 @@ void mnuShowStep_Click() {
     }
 }
 
+void notesWished(bool on) {
+    if (on && ws.StepDetail > 1) frmMain.StatusText = "Select 'High' step-by-step detail for explanations.";
+}
+
 void mnuHideWiz_Click() {
     toggle(frmMain.mnuHideWiz);
     if (frmMain.mnuHideWiz.Checked) {
@@ -117,6 +137,10 @@ void mnuShowLight_Click() {
 
 void mnuHelpTopics_Click() {
     platform.windows->show("frmHelp");
+}
+
+void mnuShortcuts_Click() {
+    platform.windows->show("frmShortcuts");
 }
 
 void mnuAlgSol_Click() {

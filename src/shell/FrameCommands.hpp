@@ -9,6 +9,11 @@ namespace ordwise {
 // New Problem: lets the student choose, and lays out a fresh worksheet unless the chooser was
 // cancelled.
 void mnuNew_Click();
+// Close Problem: the problem goes from the desk, and Open Recent offers it again.
+void mnuClose_Click();
+// One key back on the paper or in the boxes, or forward again.
+void mnuUndo_Click();
+void mnuRedo_Click();
 // Solve, Example, Erase and Explanation of the worksheet.
 void mnuSolve_Click();
 void mnuExample_Click();
@@ -30,6 +35,7 @@ void mnuConvertDF_Click();
 
 void mnuPencil_Click();     // the pencil writes along, or lies still
 void mnuShowStep_Click();   // one step at a time, or the whole solution
+void notesWished(bool on);  // explanations beside the lines or not: says so where none are given
 void mnuHideWiz_Click();    // the assistant on the desk or away
 void mnuShowLight_Click();  // the light of the guided input on the desk or away
 
@@ -38,6 +44,7 @@ void mnuHelpTopics_Click();
 void mnuAlgSol_Click();
 void mnuHomePage_Click();
 void mnuOnlineSupport_Click();
+void mnuShortcuts_Click();  // the list of all keys
 void mnuAbout_Click();
 
 // The pop-up menus of the desk. Hiding what is away already changes nothing.

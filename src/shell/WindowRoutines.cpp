@@ -13,6 +13,7 @@
 #include "PrintPreview.hpp"
 #include "PrintWindows.hpp"
 #include "Printing.hpp"
+#include "Shortcuts.hpp"
 #include "StartStop.hpp"
 #include "Windows.hpp"
 #include "WorksheetLayout.hpp"
@@ -28,7 +29,7 @@ struct WindowRow {
     void (*unload)();
 };
 
-constexpr std::array<WindowRow, 11> windowRows{{
+constexpr std::array<WindowRow, 12> windowRows{{
     {"frmPaper", [] { Form_Load(); },
      [] {
          if (frmPaper.Loaded) Form_Unload();
@@ -60,6 +61,7 @@ constexpr std::array<WindowRow, 11> windowRows{{
     {"frmOptions", [] { Options_Load(); }, [] { Options_Unload(); }},
     {"frmAbout", [] { About_Load(); }, [] { About_Unload(); }},
     {"frmHelp", [] { Help_Load(); }, [] { Help_Unload(); }},
+    {"frmShortcuts", [] { Shortcuts_Load(); }, [] { Shortcuts_Unload(); }},
     {"frmPracticeTest", [] { PracticeTest_Load(); }, [] { PracticeTest_Unload(); }},
 }};
 

@@ -2,6 +2,7 @@
 
 #include "Fault.hpp"
 #include "Platform.hpp"
+#include "ShownLines.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
 #include "basFPrint.hpp"
@@ -81,11 +82,9 @@ Plan planFrom(int first) {
     return {0, last - 1};
 }
 
-void drawStep(int i, bool placeButton, const Plan& plan) {
-    const bool turns = i == plan.turnBefore && ws.CurrentSheet < PaperWindow::lastSheet;
-    if (turns && currentSheet().CurrentY > sheetTopY) currentSheet().CurrentY = worksheetOffsets.pageFull + 1;
+void drawStep(int i, bool placeButton, const Plan& plan, bool written = true) {
     const std::string& line = ws.StepLines[i];
-    PrintMathLine(line, placeButton, plan.closer);
+    showLine(i, placeButton, {written, plan.closer, i == plan.turnBefore});
     // A step may have a note only.
     if (!line.empty()) ws.LineInView = line;
 }
@@ -101,7 +100,8 @@ void showAll() {
 }
 
 void showLast() {
-    if (!ws.StepLines[ws.ShownStep].empty()) drawStep(ws.ShownStep, false, planFrom(ws.ShownStep));
+    const bool written = !ws.StepLines[ws.ShownStep].empty();
+    drawStep(ws.ShownStep, false, written ? planFrom(ws.ShownStep) : Plan{}, written);
     PlaceCheckMark();
     // Only a student who steps through to the end is taken to the graph.
     if (ws.ProblemType == 105) {

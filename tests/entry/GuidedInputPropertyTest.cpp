@@ -4,7 +4,8 @@
 //  2. a refused key leaves everything but the light and the reason, and gives a reason;
 //  3. without Backspace the marks of the markup are balanced and do not cross;
 //  4. the typed text, typed again on a fresh worksheet, gives the same (without Backspace);
-//  5. Backspace to the start leaves an empty paper, as if nothing had been typed.
+//  5. Backspace to the start leaves an empty paper, as if nothing had been typed;
+//  6. undo leaves what was there before the key, with Backspace as well, and redo what came after it.
 //
 // Backspace does not open again what an erased key had closed, so that a root in a root can be
 // typed with it, which no renderer draws, and a text that cannot be typed again.
@@ -13,6 +14,7 @@
 #include "KeyDesk.hpp"
 #include "PlainPlatform.hpp"
 #include "Sanitized.hpp"
+#include "TypingHistory.hpp"
 #include "Windows.hpp"
 #include "WorksheetLayout.hpp"
 #include "Workspace.hpp"
@@ -91,10 +93,23 @@ private:
 
 using InputState = decltype(stateOfInput());
 
+// Where a line cannot be drawn its end is that of the line before.
+InputState textOf(InputState state) {
+    std::get<double>(state) = 0;
+    return state;
+}
+
 void pressAndWatch(const std::string& key) {
     const InputState before = stateOfInput();
     const KeyOutcome outcome = Form_KeyPress(key);
-    if (outcome == KeyOutcome::Accepted) return;
+    if (outcome == KeyOutcome::Accepted) {
+        const InputState after = stateOfInput();
+        undoKey();
+        EXPECT_EQ(textOf(stateOfInput()), textOf(before)) << "undone";
+        redoKey();
+        EXPECT_EQ(textOf(stateOfInput()), textOf(after)) << "redone";
+        return;
+    }
     EXPECT_EQ(stateOfInput(), before);
     if (outcome == KeyOutcome::Refused) {
         EXPECT_NE(ws.ExplainOverrideText, "");

@@ -120,10 +120,34 @@ TEST_F(GuidedInput, EnterShowsTheNextStepWhileTheButtonWaits) {
     EXPECT_EQ(ws.ShownStep, shown + 1);
 }
 
-TEST_F(GuidedInput, EnterOnUnfinishedInputIsRefused) {
-    press("7+");
-    EXPECT_EQ(Form_KeyPress(enterKey), KeyOutcome::Refused);
-    EXPECT_EQ(typedText(), "7+");
+TEST_F(GuidedInput, EnterOnAnUnfinishedProblemSaysWhatIsMissing) {
+    const struct {
+        const char* topic;
+        const char* keys;
+        const char* missing;
+    } cases[] = {
+        {"Arithmetic", "", "nothing has been typed yet"},
+        {"Arithmetic", "7+", "there must be a number behind the '+'"},
+        {"Complex Arithmetic Expressions", "(3*(", "2 parentheses are still open"},
+        {"Simplifying Polynomials", "3(x-",
+         "there must be a number or a letter behind the '-', and a parenthesis is still open"},
+        {"Solving Equations", "x+3", "the equal sign (=) is still to come"},
+        {"Solving Equations", "x+3=", "the right-hand side of the equation is still to come"},
+        {"Absolute Values", "|3", "an absolute value bar (|) is still open"},
+        {"Calculating Roots", "3~", "there must be a number under the root"},
+        {"Ratios", "6", "a ratio is two numbers with a colon between them, such as 1:2"},
+        {"Mixed To Fraction Notation", "2+1", "it must be a number, a sign and a fraction, such as 2+1/2"},
+        {"Pythagorean Theorem", "", "only one box stays empty, the one to be worked out"},
+        {"Volume of a Box/Cube", "", "3 boxes still need a number"},
+    };
+    for (const auto& one : cases) {
+        chooseFresh(one.topic);
+        press(one.keys);
+        EXPECT_EQ(Form_KeyPress(enterKey), KeyOutcome::Refused);
+        EXPECT_EQ(ws.ExplainOverrideText, std::string("The problem is not finished: ") + one.missing + ".");
+        EXPECT_EQ(typedText(), one.keys);
+        EXPECT_TRUE(frmPaper.DroppedKeys.empty()) << "Enter is no key of a problem";
+    }
 }
 
 TEST_F(GuidedInput, ATopicOfBoxesTakesNoKeys) {

@@ -45,7 +45,10 @@ const CommandRow commands[] = {
     {&frmMain.mnuPrintSetup,     0, "..x.", "printer"},
     {&frmMain.mnuSave,           0, "..x.", "QFileDialog"},
     {&frmMain.mnuLoad,           0, "xxxx", "QFileDialog"},
+    {&frmMain.mnuClose,          0, ".xxx"},
     {&frmMain.mnuExit,           0, "xxxx"},
+    {&frmMain.mnuUndo,           0, "...."},
+    {&frmMain.mnuRedo,           0, "...."},
     {&frmMain.mnuSolve,          0, "...."},
     {&frmMain.mnuExample,        0, ".xxx"},
     {&frmMain.mnuErase,          0, ".xxx", "QMessageBox"},
@@ -66,6 +69,7 @@ const CommandRow commands[] = {
     {&frmMain.mnuShowLight,      0, "xxxx"},
     {&frmMain.mnuChange,         0, "xxxx", "frmOptions"},
     {&frmMain.mnuHelpTopics,     0, "xxxx", "frmHelp"},
+    {&frmMain.mnuShortcuts,      0, "xxxx", "frmShortcuts"},
     {&frmMain.mnuAlgSol,         0, "xxxx", "https://www.halvern.example/ordwise/"},
     {&frmMain.mnuHomePage,       0, "xxxx", "https://www.halvern.example/"},
     {&frmMain.mnuOnlineSupport,  0, "xxxx", "https://www.halvern.example/ordwise/support/"},
@@ -130,7 +134,7 @@ protected:
         printer_.setups = 0;
         action.trigger();
         if (!frame->isVisible()) frame->show();  // Exit
-        for (const char* window : {"frmGraph", "frmHelp", "frmExplain"}) {
+        for (const char* window : {"frmGraph", "frmHelp", "frmShortcuts", "frmExplain"}) {
             const QWidget* shown = frame->findChild<QWidget*>(QString::fromLatin1(window));
             if (shown != nullptr && shown->isVisible()) opened_ = window;
             platform.windows->unload(window);

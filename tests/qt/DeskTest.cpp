@@ -58,7 +58,7 @@ TEST_F(Desk, a_refused_key_is_seen_in_shape_and_words_and_explained_by_the_light
     type(QStringLiteral(":"));
     EXPECT_EQ(frame->desk().light().imageKey(), "light3");
     EXPECT_TRUE(frame->statusLine().isRefusal());
-    EXPECT_EQ(frame->statusLine().sentence().toStdString(), ws.ExplainOverrideText);
+    EXPECT_EQ(frame->statusLine().sentence().toStdString(), "':' was not taken: " + ws.ExplainOverrideText);
     EXPECT_TRUE(frame->statusLine().accessibleName().startsWith(QStringLiteral("Refused: ")));
 
     const std::string reason = ws.ExplainOverrideText;
@@ -71,7 +71,109 @@ TEST_F(Desk, a_refused_key_is_seen_in_shape_and_words_and_explained_by_the_light
     type(QStringLiteral("3"));  // closes the bubble and is typed
     EXPECT_FALSE(bubble.isVisible());
     EXPECT_EQ(ws.ProblemText, "x+3");
+    EXPECT_TRUE(frame->statusLine().isRefusal()) << "whoever looks at the keyboard finds it later";
+    shoot("dropped");
+    press(Qt::Key_Backspace);
     EXPECT_FALSE(frame->statusLine().isRefusal());
+}
+
+TEST_F(Desk, keys_are_undone_and_redone_on_the_paper_and_in_boxes) {
+    choose(QStringLiteral("simplifying p"));
+    type(QStringLiteral("3/4+"));
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(ws.ProblemText, "3/4");
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(ws.ProblemText, "3/4+");
+
+    choose(QStringLiteral("pythagorean"));
+    type(QStringLiteral("31"));
+    press(Qt::Key_Tab);
+    type(QStringLiteral("4"));
+    press(Qt::Key_Z, Qt::ControlModifier);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    const FigureView& figure = *frame->desk().sheet(0).figure();
+    EXPECT_EQ(focused(), &figure.box(4)) << "the box that changes takes the keyboard";
+    EXPECT_EQ(figure.box(4).text(), QStringLiteral("3"));
+}
+
+TEST_F(Desk, tab_goes_through_boxes_as_they_are_read_and_enter_solves_from_anywhere) {
+    choose(QStringLiteral("pythagorean"));
+    type(QStringLiteral("3"));
+    press(Qt::Key_Tab);
+    type(QStringLiteral("4"));
+    EXPECT_EQ(frmPaper.Text4.Text + frmPaper.Text2.Text + frmPaper.Text1.Text, "34");
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), &frame->desk().light()) << "there are no lists";
+    press(Qt::Key_Return);
+    EXPECT_FALSE(ws.InputOpen);
+
+    choose(QStringLiteral("meter"));
+    type(QStringLiteral("5"));
+    FigureView& figure = *frame->desk().sheet(0).figure();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), &figure.combo(1));
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), &figure.combo(2));
+    press(Qt::Key_Return);
+    EXPECT_FALSE(ws.InputOpen);
+}
+
+TEST_F(Desk, explanations_stand_beside_the_lines_or_under_them) {
+    choose(QStringLiteral("solving"));
+    frame->actionOf(frmMain.mnuShowStep)->trigger();
+    type(QStringLiteral("2x+3=11"));
+    press(Qt::Key_F5);
+    auto& notes = child<QAction>("notesBesideLines");
+    notes.setChecked(true);
+    EXPECT_EQ(frmPaper.Notes, NotesPlace::UnderLines) << "the window is narrow";
+    shoot("notes-under");
+    for (const QSize size : {QSize(1366, 728), QSize(1920, 1040), QSize(1024, 560)}) {
+        frame->resize(size);
+        QTest::qWait(20);
+        EXPECT_EQ(frmPaper.Notes, NotesPlace::BesideLines) << size.width();
+        press(Qt::Key_Down);
+        const QByteArray name = "notes-beside-" + QByteArray::number(size.width());
+        shoot(name.constData());
+    }
+    clickOn(child<>("Notes"));
+    EXPECT_GE(frmPaper.ChosenLine, 0);
+    {
+        const FrameWindow next;
+        EXPECT_TRUE(next.desk().notes()) << "it is remembered";
+    }
+    notes.setChecked(false);
+    EXPECT_TRUE(frmPaper.Slips.empty());
+}
+
+TEST_F(Desk, closes_problems_and_windows_and_lists_its_keys) {
+    choose(QStringLiteral("arithmetic"));
+    type(QStringLiteral("2+"));
+    press(Qt::Key_Question, Qt::ControlModifier);
+    QWidget* keys = frame->windows().open("frmShortcuts");
+    ASSERT_NE(keys, nullptr);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(keys));
+    QTest::qWait(1);  // the platform without a screen tells it late
+    shootWidget(*keys, "shortcuts");
+    QTest::keyClick(keys, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_EQ(frame->windows().open("frmShortcuts"), nullptr);
+    atNextDialog([](QWidget& dialog) {
+        EXPECT_EQ(dialog.objectName(), QStringLiteral("frmOptions"));
+        QTest::keyClick(&dialog, Qt::Key_W, Qt::ControlModifier);
+    });
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(frmPaper.Loaded);
+    auto& welcome = child<>("welcome");
+    EXPECT_TRUE(welcome.isAncestorOf(focused()));
+    shoot("welcome");
+    atNextDialog([](QWidget& dialog) {
+        EXPECT_EQ(dialog.objectName(), QStringLiteral("frmSelect"));
+        dialog.close();
+    });
+    press(Qt::Key_Return);
 }
 
 TEST_F(Desk, steps_through_an_equation_to_the_check_mark) {
@@ -195,15 +297,15 @@ TEST_F(Desk, the_chooser_is_worked_without_a_mouse_and_with_one) {
 TEST_F(Desk, a_box_topic_is_filled_and_solved_from_its_boxes) {
     choose(QStringLiteral("area of a tri"));
     FigureView& figure = *frame->desk().sheet(0).figure();
-    EXPECT_EQ(focused(), &figure.box(1)) << "the first box takes the keys";
+    EXPECT_EQ(focused(), &figure.box(2)) << "the first box takes the keys";
     type(QStringLiteral("12x"));
-    EXPECT_EQ(figure.box(1).text(), QStringLiteral("12"));
+    EXPECT_EQ(figure.box(2).text(), QStringLiteral("12"));
     EXPECT_TRUE(frame->statusLine().isRefusal());
     press(Qt::Key_Tab);
-    EXPECT_EQ(focused(), &figure.box(2));
+    EXPECT_EQ(focused(), &figure.box(1));
     type(QStringLiteral("7.55"));
     press(Qt::Key_Backspace);
-    EXPECT_EQ(figure.box(2).text(), QStringLiteral("7.5"));
+    EXPECT_EQ(figure.box(1).text(), QStringLiteral("7.5"));
     shoot("triangle-filled");
     press(Qt::Key_Return);
     while (frame->desk().sheet(0).blinker().isVisible()) press(Qt::Key_Return);

@@ -10,14 +10,18 @@
 #include "StatusLine.hpp"
 #include "Workspace.hpp"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QFile>
+#include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
@@ -201,6 +205,63 @@ TEST_F(Frame, HasDialogsThatFollowADarkPalette) {
     shootWidget(*help, "dark-help");
     QApplication::setPalette(usual);
     EXPECT_TRUE(QTest::qWaitFor([help] { return groundOf(*help) > 200; }, 1000)) << "also while it is open";
+}
+
+// Underlined letters of what a window shows, of its menus one by one.
+void expectOwnLetters(QWidget& window) {
+    const auto expectDistinct = [](const QStringList& captions) {
+        QStringList letters;
+        for (const QString& caption : captions) {
+            const QKeySequence letter = QKeySequence::mnemonic(caption);
+            if (letter.isEmpty()) continue;
+            EXPECT_FALSE(letters.contains(letter.toString())) << caption.toStdString();
+            letters << letter.toString();
+        }
+    };
+    QStringList captions;
+    const auto isHere = [&](const QWidget* widget) { return widget->window() == &window && widget->isVisible(); };
+    for (const auto* bar : window.findChildren<QMenuBar*>()) {
+        if (!isHere(bar)) continue;
+        for (const QAction* action : bar->actions()) {
+            captions << action->text();
+            QStringList entries;
+            for (const QAction* entry : action->menu()->actions()) entries << entry->text();
+            expectDistinct(entries);
+        }
+    }
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        if (isHere(button)) captions << button->text();
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        if (isHere(label) && label->buddy() != nullptr) captions << label->text();
+    }
+    for (const auto* bar : window.findChildren<QTabBar*>()) {
+        for (int i = 0; i < bar->count() && isHere(bar); ++i) captions << bar->tabText(i);
+    }
+    expectDistinct(captions);
+}
+
+TEST_F(Frame, HasNoTwoCommandsWithOneLetterInAWindow) {
+    expectOwnLetters(*frame);
+    choose(QStringLiteral("graphing a linear"));
+    type(QStringLiteral("y=2x+3"));
+    press(Qt::Key_F5);
+    expectOwnLetters(*frame);
+    for (const Control* command : {&frmMain.mnuNew, &frmMain.mnuPrint, &frmMain.mnuChange, &frmMain.mnuPracticeTest}) {
+        SCOPED_TRACE(command->Text);
+        atNextDialog([](QWidget& dialog) {
+            expectOwnLetters(dialog);
+            dialog.close();
+        });
+        frame->actionOf(*command)->trigger();
+    }
+    for (const auto& [command, name] :
+         {std::pair(&frmMain.mnuGraph, "frmGraph"), std::pair(&frmMain.mnuHelpTopics, "frmHelp")}) {
+        SCOPED_TRACE(name);
+        frame->actionOf(*command)->trigger();
+        expectOwnLetters(*frame->windows().open(name));
+        platform.windows->unload(name);
+    }
 }
 
 TEST_F(Frame, TellsOfTheSystemToBeCopied) {

@@ -123,6 +123,8 @@ TEST_F(PrintWindows, a_test_is_outlined_created_turned_over_and_printed) {
             EXPECT_GT(page.scale(), fitting);
             QTest::keyClick(&preview, Qt::Key_0, Qt::ControlModifier);
             EXPECT_DOUBLE_EQ(page.scale(), fitting);
+            EXPECT_EQ(in<QAbstractButton>(preview, "Command1").shortcut(), QKeySequence(Qt::ALT | Qt::Key_P))
+                << "Print keeps its letter beside its key";
             clickIn(preview, "Command1");
             EXPECT_TRUE(in<StatusLine>(preview, "StatusLine").sentence().startsWith(QStringLiteral("Printed to \"")));
             clickIn(preview, "Command2");

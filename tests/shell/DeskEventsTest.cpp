@@ -3,13 +3,18 @@
 #include "Catalogue.hpp"
 #include "Drawn.hpp"
 #include "FrameCommands.hpp"
+#include "GuidedInput.hpp"
 #include "PlainPlatform.hpp"
+#include "Shortcuts.hpp"
+#include "ShownLines.hpp"
 #include "StepDisplay.hpp"
 #include "WindowRoutines.hpp"
 #include "Windows.hpp"
 #include "Workspace.hpp"
 
 #include <gtest/gtest.h>
+
+#include <set>
 
 namespace ordwise {
 namespace {
@@ -60,13 +65,119 @@ TEST_F(DeskEvents, a_box_tells_by_the_light_what_it_refuses) {
     Box_KeyPress(2, "x");
     EXPECT_EQ(frmPaper.Light.Image, "light3");
     EXPECT_EQ(frmPaper.Text2.Text, "4");
-    EXPECT_EQ(statusLine(), ws.ExplainOverrideText);
+    EXPECT_EQ(statusLine(), "'x' was not taken: " + ws.ExplainOverrideText);
     EXPECT_TRUE(statusIsRefusal());
     frmMain.StatusText = "Saved.";
     EXPECT_EQ(statusLine(), "Saved.");
     EXPECT_FALSE(statusIsRefusal()) << "news is no refusal, though the light is red";
     frmMain.StatusText.clear();
     EXPECT_NE(statusLine(), "");
+}
+
+TEST_F(DeskEvents, a_key_that_was_not_taken_stays_in_sight_until_it_is_gone_back_over) {
+    open("Solving Equations");
+    typeKeys("1/");
+    const std::string told = "'/' was not taken: " + ws.ExplainOverrideText;
+    EXPECT_EQ(statusLine(), told);
+    const DisplayList mark = frmPaper.Paper[0].Marks;
+    typeKeys("2x+3=7");
+    EXPECT_EQ(frmPaper.Light.Image, "light2");
+    EXPECT_EQ(statusLine(), told) << "whoever looks at the keyboard finds it later";
+    EXPECT_TRUE(statusIsRefusal());
+    EXPECT_EQ(frmPaper.Paper[0].Marks, mark) << "between the 1 and the 2";
+    EXPECT_NEAR(std::get<Stroke>(mark.front()).x2,
+                std::get<Glyphs>(frmPaper.Paper[0].drawn().front()).x + textWidth(Face::Halvern, "1", 18), 1);
+    typeKeys("::");
+    EXPECT_TRUE(statusLine().starts_with("':' was not taken: ")) << "as the light says";
+    EXPECT_TRUE(statusLine().ends_with("1 other key was not taken either.")) << statusLine();
+
+    typeKeys("\b\b\b\b\b");
+    EXPECT_EQ(statusLine(), told);
+    typeKeys("\b");
+    EXPECT_TRUE(frmPaper.DroppedKeys.empty());
+    EXPECT_TRUE(frmPaper.Paper[0].Marks.empty());
+    EXPECT_FALSE(statusIsRefusal());
+}
+
+TEST_F(DeskEvents, a_solve_without_a_key_that_was_not_taken_says_so_once) {
+    open("Solving Equations");
+    typeKeys("1/2x+3=7");
+    mnuSolve_Click();
+    EXPECT_EQ(statusLine(), "Solved without the key that was not taken: '/'.");
+    EXPECT_TRUE(frmPaper.Paper[0].Marks.empty());
+    frmMain.StatusText.clear();
+    EXPECT_EQ(statusLine().find("not taken"), std::string::npos);
+
+    open("Area of a Triangle");
+    Box_KeyPress(1, "1");
+    Box_KeyPress(1, "/");
+    Box_KeyPress(1, "2");
+    EXPECT_TRUE(statusLine().starts_with("'/' was not taken: ")) << "boxes lose no key unseen either";
+    EXPECT_FALSE(frmPaper.BoxMarks.empty());
+    Box_KeyPress(1, "\b");
+    EXPECT_TRUE(frmPaper.BoxMarks.empty());
+}
+
+TEST_F(DeskEvents, lines_are_chosen_by_click_and_keys_and_each_has_its_own_reason) {
+    open("Solving Equations");
+    typeKeys("2x+3=11");
+    mnuShowStep_Click();
+    mnuSolve_Click();
+    ASSERT_GE(frmPaper.Lines.size(), 3U);
+    const ShownLine second = frmPaper.Lines[1];
+    EXPECT_EQ(noteInView(), frmPaper.Lines.back().Note) << "the last one until another is chosen";
+
+    EXPECT_TRUE(Desk_KeyDown(DeskKey::Down));
+    EXPECT_EQ(frmPaper.ChosenLine, 0);
+    Desk_KeyDown(DeskKey::Up);
+    EXPECT_EQ(frmPaper.ChosenLine, 0) << "there is none above";
+    Paper_Click(0, (second.Top + second.Bottom) / 2);
+    EXPECT_EQ(frmPaper.ChosenLine, 1);
+    EXPECT_EQ(noteInView(), second.Note);
+    EXPECT_FALSE(frmPaper.Paper[0].Marks.empty()) << "it is shown chosen";
+    outside.windows.requests.clear();
+    Paper_Click(0, (second.Top + second.Bottom) / 2);
+    EXPECT_EQ(outside.windows.requests, std::vector<std::string>{"+frmExplain"});
+    Desk_KeyDown(DeskKey::Escape);
+    EXPECT_EQ(frmPaper.ChosenLine, -1);
+    EXPECT_TRUE(frmPaper.Paper[0].Marks.empty());
+}
+
+TEST_F(DeskEvents, step_by_step_the_choice_begins_at_the_line_just_shown) {
+    open("Solving Equations");
+    typeKeys("2x+3=11");
+    mnuSolve_Click();
+    Form_KeyPress(enterKey);
+    ASSERT_EQ(frmPaper.Lines.size(), 2U);
+    Desk_KeyDown(DeskKey::Down);
+    EXPECT_EQ(frmPaper.ChosenLine, 1);
+    Desk_KeyDown(DeskKey::Up);
+    EXPECT_EQ(frmPaper.ChosenLine, 0);
+    EXPECT_TRUE(Picture_Enter()) << "Next Step goes on where it was";
+    EXPECT_EQ(frmPaper.Lines.size(), 3U);
+    EXPECT_EQ(frmPaper.ChosenLine, -1);
+}
+
+TEST_F(DeskEvents, sheets_are_fetched_by_keys) {
+    open("Complex Arithmetic Expressions");
+    typeKeys("(4-2)+3^2+(7+1)*2-6/2+4*5-(3+4)*2");
+    mnuShowStep_Click();
+    mnuSolve_Click();
+    const int last = ws.CurrentSheet;
+    ASSERT_GE(last, 1);
+    EXPECT_FALSE(Desk_KeyDown(DeskKey::PageDown)) << "it is in front already";
+    EXPECT_TRUE(Desk_KeyDown(DeskKey::PageUp));
+    EXPECT_EQ(sheetInFront(), last - 1);
+    Desk_KeyDown(DeskKey::End);
+    EXPECT_EQ(sheetInFront(), last) << "with the chosen line";
+}
+
+TEST_F(DeskEvents, no_two_keys_and_no_two_letters_of_a_menu_are_alike) {
+    std::set<std::string_view> seen;
+    for (const ShortcutRow& row : shortcutRows()) EXPECT_TRUE(seen.insert(row.keys).second) << row.keys;
+    EXPECT_EQ(keysOf(frmMain.mnuChange), "Ctrl+,");
+    EXPECT_EQ(withOwnMnemonics({"&File", "&Functions", "Save Problem", "&Save"}),
+              (std::vector<std::string>{"&File", "F&unctions", "Save &Problem", "&Save"}));
 }
 
 TEST_F(DeskEvents, the_status_line_says_what_can_be_done_next) {

@@ -14,9 +14,11 @@
 #include "Int16.hpp"
 #include "SlotArray.hpp"
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <string>
+#include <vector>
 
 namespace ordwise {
 
@@ -75,6 +77,19 @@ struct SyntaxState {
     bool ExplainOverride = false;     // the explanation window shows the text below
     std::string ExplainOverrideText;  // the reason of the last refusal
     bool InputOpen = true;            // keys are taken; false from Solve until Erase
+};
+
+// What was typed, at one moment: on the paper with its state, or in the boxes.
+struct TypedMoment {
+    std::string Keys;  // of the paper, a character a key
+    SyntaxState Syntax;
+    std::array<std::string, 6> Boxes;
+};
+
+// The moments that can be gone back to and come back from. Life: problem, until it is solved.
+struct TypingHistory {
+    std::vector<TypedMoment> UndoMoments;  // each before a key that was taken, the latest last
+    std::vector<TypedMoment> RedoMoments;  // those that were gone back from, the latest undone last
 };
 
 // The solution. Lines live for a solve, notes for a problem.
@@ -173,6 +188,7 @@ struct PreviewPages {
 struct Workspace : ProblemIdentity,
                    TypedInput,
                    SyntaxState,
+                   TypingHistory,
                    Steps,
                    ExpressionEngine,
                    SolverResults,

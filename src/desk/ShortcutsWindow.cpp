@@ -1,0 +1,7 @@
+#include "ShortcutsWindow.hpp"
+
+namespace ordwise {
+
+ShortcutsWindow frmShortcuts;
+
+}  // namespace ordwise
