@@ -17,7 +17,7 @@
 namespace ordwise {
 
 // What is asked of a draw. `favoured` asks for the kind of problem that shows most where a topic has
-// two: a list with a mode, a fraction that can be simplified, a composite number.
+// two: a list with a mode, a mean that is a whole number, a composite number.
 struct ExampleWish {
     int type;
     bool complex;

@@ -224,9 +224,8 @@ std::string fractionToSimplify(const ExampleWish& wish) {
     const int digits = digitsAt(wish);
     // There are few such fractions of single digits; those that are 1 are among them.
     const auto draw = [&] { return Fraction{drawDigits(digits), drawDigits(digits)}; };
-    const auto fits = [&](const Fraction& drawn) {
-        const bool simplifies = std::gcd(value(drawn.top), value(drawn.bottom)) > 1;
-        return value(drawn.bottom) > 1 && simplifies == wish.favoured;
+    const auto fits = [](const Fraction& drawn) {
+        return value(drawn.bottom) > 1 && std::gcd(value(drawn.top), value(drawn.bottom)) > 1;
     };
     return fractionText(drawUntil(draw, fits));
 }

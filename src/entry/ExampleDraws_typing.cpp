@@ -15,6 +15,8 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <numeric>
+#include <vector>
 
 namespace ordwise {
 namespace {
@@ -227,6 +229,68 @@ bool hasOperator() {
     return !lastOperator().empty();
 }
 
+struct TypedTerm {
+    int coefficient = 1;
+    std::string letters;  // with their exponents; "" in a number
+    int exponent = 0;     // of the letter
+    int denominator = 1;
+};
+
+// The terms between the signs of a polynomial without groups and products.
+std::vector<TypedTerm> typedTerms() {
+    std::vector<TypedTerm> terms(1);
+    std::string number;
+    char part = 'c';  // of which part the digits are: coefficient, exponent or denominator
+    const auto endNumber = [&] {
+        if (number.empty()) return;
+        TypedTerm& term = terms.back();
+        (part == 'c' ? term.coefficient : part == 'e' ? term.exponent : term.denominator) = longOf(number);
+        number.clear();
+    };
+    for (int i = 0; i < ws.InputLast; ++i) {
+        const std::string& key = ws.InputTokens[i];
+        if (IsNumeric(key)) {
+            number += key;
+            continue;
+        }
+        endNumber();
+        if (key == "+" || key == "-") {
+            terms.emplace_back();
+            part = 'c';
+        } else if (key == "^" || key == "/") {
+            part = key == "^" ? 'e' : 'd';
+        } else {
+            terms.back().letters = key;
+            terms.back().exponent = 1;
+        }
+    }
+    endNumber();
+    return terms;
+}
+
+// Neither a product or group to be multiplied out, nor like terms, nor a fraction to be reduced, nor an
+// order to be made. e.g. 6x^3+6x-8
+bool isSimplest() {
+    for (int i = 0; i < ws.InputLast; ++i) {
+        if (ws.InputTokens[i] == "(" || ws.InputTokens[i] == "*") return false;
+    }
+    const std::vector<TypedTerm> terms = typedTerms();
+    const bool hasFraction =
+        std::any_of(terms.begin(), terms.end(), [](const TypedTerm& t) { return t.denominator > 1; });
+    for (std::size_t i = 0; i < terms.size(); ++i) {
+        if (std::gcd(terms[i].coefficient, terms[i].denominator) > 1) return false;
+        for (std::size_t j = 0; j < i; ++j) {
+            if (terms[i].exponent == terms[j].exponent) return false;
+            if (!hasFraction && terms[i].exponent > terms[j].exponent) return false;
+        }
+    }
+    return true;
+}
+
+bool asksToSimplify() {
+    return hasOperator() && !isSimplest();
+}
+
 // clang-format off
 const Family families[] = {
     { 91,  5, 10, "*+-*+-/", typeNumber,         hasOperator},
@@ -234,7 +298,7 @@ const Family families[] = {
     { 82,  5, 10, "*+-+-",   typeRoot,           hasOperator},
     {120,  5, 10, "+-+-*/",  typeBars,           hasOperator},
     {121,  9,  4, "*+-*+-/", typeGroup,          hasOperator},
-    {102,  9,  4, "+-+-*/",  typePolynomialTerm, hasOperator},
+    {102,  9,  4, "+-+-*/",  typePolynomialTerm, asksToSimplify},
     {103,  9,  4, "+-+-*",   typeTermOfLetters,  hasOperator},
     {101,  9,  4, "+-",      typeLinearTerm,     hasSolution},
     {105,  9,  4, "+-",      typeTermOfLine,     isSlopingLine},
