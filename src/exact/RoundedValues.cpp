@@ -6,7 +6,7 @@
 namespace ordwise::exact {
 namespace {
 
-constexpr std::size_t mostValues = 24;
+constexpr std::size_t mostValues = 12;
 
 // A number that a single prints with all its digits needs no rounding.
 bool fitsSingle(const Rational& r) {
@@ -91,8 +91,9 @@ std::vector<Quotient> waysToRound(const Quotient& q, const Rounding& rounding) {
 
 class Values {
 public:
-    Values(const Rounding& rounding, const Letters& letters, Effort& effort)
-        : rounding_(rounding), letters_(letters), effort_(effort) {}
+    // With `always` every result is rounded, and there is one value.
+    Values(const Rounding& rounding, const Letters& letters, Effort& effort, bool always = false)
+        : rounding_(rounding), letters_(letters), effort_(effort), always_(always) {}
 
     std::vector<Quotient> of(const Tree& tree) {
         switch (tree.kind) {
@@ -107,7 +108,9 @@ public:
 
 private:
     void add(std::vector<Quotient>& values, const Quotient& value) {
-        for (const Quotient& way : waysToRound(value, rounding_)) {
+        const std::vector<Quotient> ways = waysToRound(value, rounding_);
+        if (always_) return values.push_back(ways[ways.size() > 1 ? 1 : 0]);
+        for (const Quotient& way : ways) {
             const bool known = std::any_of(values.begin(), values.end(), [&](const Quotient& other) {
                 return other.above == way.above && other.below == way.below;
             });
@@ -163,6 +166,7 @@ private:
     const Rounding& rounding_;
     const Letters& letters_;
     Effort& effort_;
+    bool always_;
 };
 
 bool isRoundedNumber(const RootSum& exact, const RootSum& written, const Rounding& rounding) {
@@ -178,7 +182,10 @@ bool isRoundedNumber(const RootSum& exact, const RootSum& written, const Roundin
 
 std::vector<Quotient> roundedValues(const Tree& tree, const Rounding& rounding, const Letters& letters,
                                     Effort& effort) {
-    return Values(rounding, letters, effort).of(tree);
+    std::vector<Quotient> values = Values(rounding, letters, effort).of(tree);
+    // However many there are: the one of whoever rounds every time.
+    values.push_back(Values(rounding, letters, effort, true).of(tree).front());
+    return values;
 }
 
 bool isRounded(const Quotient& exact, const Quotient& written, const Rounding& rounding, Effort& effort) {
