@@ -233,6 +233,13 @@ void addTestOptions(CLI::App& command, TestOptions& options) {
     command.add_option_function<std::string>("--versions", take, "Make versions A, B and C of the test: 1 to 3")
         ->type_name("COUNT");
     addSeed(command, options.request.seed, "The same number makes the same test");
+    const auto space = [&options](const std::string& text) { options.request.space = numberOf("--space", text); };
+    command.add_option_function<std::string>("--space", space, "Lines to work in below each problem: 0 to 20")
+        ->type_name("LINES");
+    const auto columns = [&options](const std::string& text) { options.request.columns = numberOf("--columns", text); };
+    command.add_option_function<std::string>("--columns", columns, "Set short problems side by side on paper: 1 or 2")
+        ->type_name("COUNT");
+    command.add_flag("--no-name-line", options.request.noNameLine, "No line for name, date and class on paper");
     command.add_flag("--json", options.json, "One JSON object");
 }
 

@@ -56,6 +56,9 @@ struct TestRequest {
     std::string key = "none";           // or "answers", "steps"
     int versions = 1;                   // up to three: A, B, C
     std::uint64_t seed = 0;
+    bool noNameLine = false;  // no room for name, date and class above the heading
+    int space = 0;            // lines to work in below each problem
+    int columns = 1;          // or two, where the problems of a section are short
 };
 
 struct KeysRequest {

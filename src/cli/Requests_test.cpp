@@ -8,6 +8,10 @@
 #include "NumberText.hpp"
 #include "PlainPlatform.hpp"
 #include "PracticeTest.hpp"
+#include "TextTools.hpp"
+
+#include <langinfo.h>
+#include <locale.h>
 
 #include <ctime>
 
@@ -16,12 +20,29 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-std::string todaysDate() {
+// Today by a format of strftime.
+std::string today(const char* format, locale_t locale) {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
-    char date[16];
-    return {date, std::strftime(date, sizeof date, "%m/%d/%Y", &local)};
+    char date[64];
+    return {date, strftime_l(date, sizeof date, format, &local, locale)};
+}
+
+// In the short form of the user's locale, with all four digits of the year.
+std::string localDate() {
+    const locale_t own = newlocale(LC_TIME_MASK, "", nullptr);
+    const locale_t locale = own == nullptr ? newlocale(LC_TIME_MASK, "C", nullptr) : own;
+    const std::string date = today(replaced(nl_langinfo_l(D_FMT, locale), "%y", "%Y").c_str(), locale);
+    freelocale(locale);
+    return date;
+}
+
+std::string isoDate() {
+    const locale_t plain = newlocale(LC_TIME_MASK, "C", nullptr);
+    const std::string date = today("%Y-%m-%d", plain);
+    freelocale(plain);
+    return date;
 }
 
 int countOf(const std::string& text, const std::string& section) {
@@ -58,7 +79,7 @@ TestPlan planOf(const TestRequest& request) {
         throw BadRequest("A test has at most " + textOf(mostSections) + " sections.");
     for (const std::string& section : request.sections) plan.sections.push_back(sectionOf(section));
     if (request.heading.size() > plan.heading.size()) throw BadRequest("A heading has at most three lines.");
-    plan.heading = {"Halvern Ordwise", "Practice Test", todaysDate()};
+    plan.heading = {"Halvern Ordwise", "Practice Test", localDate()};
     if (!request.heading.empty()) plan.heading = {};
     std::copy(request.heading.begin(), request.heading.end(), plan.heading.begin());
     plan.key = keyOf(request.key);
@@ -66,6 +87,12 @@ TestPlan planOf(const TestRequest& request) {
         throw BadRequest("--versions takes 1 to " + textOf(mostVersions) + ".");
     plan.versions = request.versions;
     plan.seed = request.seed;
+    if (request.space < 0 || request.space > mostSpace)
+        throw BadRequest("--space takes 0 to " + textOf(mostSpace) + ".");
+    plan.space = request.space;
+    if (request.columns < 1 || request.columns > mostColumns) throw BadRequest("--columns takes 1 or 2.");
+    plan.columns = request.columns;
+    plan.nameLine = !request.noNameLine;
     return plan;
 }
 
@@ -77,6 +104,14 @@ std::vector<MadeTest> testsOf(const TestPlan& plan) {
     }
 }
 
+Json versionsOf(const std::vector<MadeTest>& tests) {
+    Json versions = Json::array();
+    for (const MadeTest& test : tests)
+        versions.push_back(
+            Json{{"version", test.version}, {"seed", test.seed}, {"lines", test.lines}, {"key", test.key}});
+    return versions;
+}
+
 }  // namespace
 
 Json answerTest(const TestRequest& request) {
@@ -85,12 +120,12 @@ Json answerTest(const TestRequest& request) {
     const TestPlan plan = planOf(request);
     const std::vector<MadeTest> tests = testsOf(plan);
     Json answer{{"heading", plan.heading}, {"lines", tests.front().lines}};
-    if (plan.key == AnswerKey::None && plan.versions == 1) return answer;
-    Json versions = Json::array();
-    for (const MadeTest& test : tests)
-        versions.push_back(
-            Json{{"version", test.version}, {"seed", test.seed}, {"lines", test.lines}, {"key", test.key}});
-    answer["versions"] = versions;
+    if (plan.key != AnswerKey::None || plan.versions > 1) answer["versions"] = versionsOf(tests);
+    answer["seed"] = plan.seed;
+    answer["date"] = isoDate();
+    answer["nameLine"] = plan.nameLine;
+    answer["space"] = plan.space;
+    answer["columns"] = plan.columns;
     return answer;
 }
 

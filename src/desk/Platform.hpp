@@ -4,6 +4,7 @@
 
 #include "DisplayList.hpp"
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -45,6 +46,8 @@ public:
     [[nodiscard]] virtual int minuteAndSecond() const = 0;
     // Today's date in the form of the user's locale, e.g. "11/22/2026".
     [[nodiscard]] virtual std::string today() const = 0;
+    // The same as ISO 8601 writes it, for programs. e.g. "2026-11-22"
+    [[nodiscard]] virtual std::string todayForPrograms() const = 0;
     // The same for the name of a file, "mm-dd-yy". e.g. "03-14-02"
     [[nodiscard]] virtual std::string todayForFile() const = 0;
 };
@@ -103,12 +106,31 @@ struct PaperSize {
     bool operator==(const PaperSize&) const = default;
 };
 
+// What somebody copies out of a place of a page where the letters that are drawn do not read so: a
+// fraction stands as "3/4" and not as a 3 above a 4. The operations `first` to `last` of the page are
+// its drawing.
+struct PageText {
+    std::string text;  // UTF-8
+    double x = 0;      // the top left of the line, and how far the drawing reaches
+    double y = 0;
+    double width = 0;
+    std::size_t first = 0;
+    std::size_t last = 0;  // one behind
+    bool operator==(const PageText&) const = default;
+};
+
+struct PrintedPage {
+    DisplayList drawing;
+    std::vector<PageText> texts;  // in the order of reading
+    bool operator==(const PrintedPage&) const = default;
+};
+
 // What is sent to the printer in one piece. A page is drawn with its origin at the corner of the
 // printable area, that is, the margin in from the edges of the paper.
 struct PrintJob {
     std::string title;
     PaperSize paper;
-    std::vector<DisplayList> pages;
+    std::vector<PrintedPage> pages;
 };
 
 // A job is laid out to its end before it is sent, so that a fault on the way leaves nothing behind.

@@ -10,6 +10,10 @@ PracticeTestWindow::PracticeTestWindow() {
     for (Control& clear : Command4) clear.Text = "Clear";
     AnswerKey.List = {"No answer key", "Answers", "Answers with all steps"};
     Versions.List = {"One version", "Versions A and B", "Versions A, B and C"};
+    NameLine.Text = "Name line";
+    NameLine.Checked = true;
+    Space.List = {"None", "Two lines", "Five lines", "Ten lines"};
+    Columns.List = {"One", "Two where short"};
     Command2.Text = "Create Practice Test";
     Command1.Text = "Cancel";
 }

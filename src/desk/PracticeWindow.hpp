@@ -37,6 +37,9 @@ struct PracticeTestWindow {
     Control Text1, Text2, Text3;  // the heading of the test, in HalvernFont
     ComboControl AnswerKey;       // none, the answers, or the answers with all steps
     ComboControl Versions;        // one, or A and B, or A, B and C
+    Control NameLine;             // "Name line": room for name, date and class on each test
+    ComboControl Space;           // to work in below each problem
+    ComboControl Columns;         // of problems, side by side where they are short
     Control Seed;                 // makes the same test again; empty draws a new one
     Control Command2;             // "Create Practice Test"
     Control Command1;             // "Cancel"

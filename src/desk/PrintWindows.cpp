@@ -13,6 +13,7 @@ PrintSetupWindow::PrintSetupWindow() {
     Command2.Text = "OK";
     Command1.Text = "Cancel";
     Command3.Text = "Setup...";
+    Command4.Text = "Preview...";
 }
 
 PrintPreviewWindow::PrintPreviewWindow() {

@@ -8,6 +8,7 @@
 #include "RandomDraws.hpp"
 #include "SolveDriver.hpp"
 #include "TextTools.hpp"
+#include "TokenPredicates.hpp"
 #include "Windows.hpp"
 #include "WorksheetBoxes.hpp"
 #include "WorksheetErase.hpp"
@@ -31,6 +32,7 @@ constexpr int patienceWithTheLast = 2000;
 constexpr int examplesInARow = 50;
 
 constexpr int negativeExponentsTopic = 150;
+constexpr int evaluatingTopic = 103;
 
 // An empty paper for undrawn typing. An open bar or fraction of the problem before would outlive
 // ResetEngine, and typing would never come to an end.
@@ -130,6 +132,21 @@ Example makeUp(int type, int level) {
     return example;
 }
 
+// Nobody can evaluate a polynomial on paper without its values. e.g. ", when x = 4, y = 5 and z = 2"
+void drawValues(Example& example) {
+    std::vector<std::string> names;
+    for (const char c : example.keys) {
+        const std::string name(1, c);
+        if (IsLetter(name) && example.values.emplace(name, "").second) names.push_back(name);
+    }
+    for (const std::string& name : names) {
+        const bool first = name == names.front();
+        example.values[name] = textOf(RandInt2to9());
+        example.suffix += first ? ", when " : name == names.back() ? " and " : ", ";
+        example.suffix += name + " = " + example.values[name];
+    }
+}
+
 bool isControl(const std::string& key) {
     return key.size() == 1 && key[0] >= 0 && key[0] < ' ';
 }
@@ -173,6 +190,7 @@ std::string create_example(std::string_view pattern) {
 Example GenerateExample(int type, bool forTest, int level) {
     Example example = makeUp(type, level);
     if (forTest) {
+        if (type == evaluatingTopic) drawValues(example);
         if (!example.suffix.empty()) ws.TestSuffix = example.suffix;
         ExampleChop(example.line, true);
     } else {

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,11 +21,12 @@ inline constexpr int complexLevel = 2;
 
 // A problem that has been made up and stands nowhere yet.
 struct Example {
-    std::array<std::string, 6> boxes;       // Text1 to Text6, "" for a box that stays empty
-    std::array<int, 3> combos = {0, 0, 0};  // the entries selected in Combo1 to Combo3
-    std::string keys;                       // what is typed on the paper, e.g. "3/4+x^2"
-    std::string line;                       // as a test prints it, e.g. "#3/4#+x^2^"
-    std::string suffix;                     // stands behind the line of a test, e.g. the rounding
+    std::array<std::string, 6> boxes;                // Text1 to Text6, "" for a box that stays empty
+    std::array<int, 3> combos = {0, 0, 0};           // the entries selected in Combo1 to Combo3
+    std::string keys;                                // what is typed on the paper, e.g. "3/4+x^2"
+    std::string line;                                // as a test prints it, e.g. "#3/4#+x^2^"
+    std::string suffix;                              // stands behind the line of a test, e.g. the rounding
+    std::map<std::string, std::string> values = {};  // of the letters of a test's polynomial, told in the suffix
 
     bool operator==(const Example&) const = default;
 };
@@ -42,7 +44,8 @@ struct RefusedKey {
 
 // Makes up a problem of `type`, which is the topic chosen, at ComplexExamples' `level`, and hands it
 // to ExampleChop: the line for a test, otherwise the keys, after the boxes and lists have been
-// filled. Returns what was made up. Leaves input and engine empty for a test.
+// filled. Returns what was made up. Leaves input and engine empty for a test. A polynomial to be
+// evaluated gets its values with the problem on a test: ", when x = 4 and y = 5".
 Example GenerateExample(int type, bool forTest, int level);
 
 // Seeds the draws for one example. Neighbouring seeds are the problems of one run, so that fifty of

@@ -24,8 +24,9 @@ std::optional<Colour> PlainColours::chooseColour(Colour current) {
 }
 
 std::string PlainPrinter::print(const PrintJob& job) {
-    if (refusal.empty()) jobs.push_back(job);
-    return refusal;
+    if (!refusal.empty() && jobs.size() >= refuseAfter) return refusal;
+    jobs.push_back(job);
+    return "";
 }
 
 std::optional<std::string> PlainFiles::read(const std::string& path) {

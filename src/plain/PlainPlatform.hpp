@@ -60,8 +60,10 @@ public:
 
     [[nodiscard]] int minuteAndSecond() const override { return mmss; }
     std::string fileDate;
+    std::string isoDate;
 
     [[nodiscard]] std::string today() const override { return date; }
+    [[nodiscard]] std::string todayForPrograms() const override { return isoDate; }
     [[nodiscard]] std::string todayForFile() const override { return fileDate; }
 };
 
@@ -80,6 +82,7 @@ public:
     std::string name = "Plain printer";
     PaperSize size;
     std::string refusal;
+    std::size_t refuseAfter = 0;  // so many jobs are taken first
     std::vector<PrintJob> jobs;
     int setups = 0;
 

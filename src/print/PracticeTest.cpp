@@ -44,27 +44,20 @@ std::vector<std::string> testLines() {
     return lines;
 }
 
-// The values that a solve has asked for. e.g. "x = 4, y = 2: "
-std::string valuesTold(const SilentOutside& outside) {
-    std::vector<std::string> told;
-    for (const auto& [question, answer] : outside.answered)
-        told.push_back(question.substr(0, question.find(" = ")) + " = " + answer);
-    return told.empty() ? "" : joined(told, ", ") + ": ";
-}
-
 // Writes the problem on a fresh worksheet and solves it all at once.
 std::vector<std::string> keyOf(const TestProblem& problem, int number, AnswerKey kind) {
-    SilentOutside outside;
+    const SilentOutside outside(problem.example.values);
     Form_Unload();
     TreeViewSelect(problem.topic);
     Form_Load();
     frmMain.mnuShowStep.Checked = false;
     fillWorksheet(problem.example.boxes, problem.example.combos);
     ExampleChop(problem.example.keys, false);
-    const std::string start = textOf(number) + ") " + valuesTold(outside);
-    if (kind == AnswerKey::Answers) return {start + answerOnDesk()};
+    const std::string start = textOf(number) + ") ";
+    const std::string values = problem.example.values.empty() ? "" : problem.example.suffix;
+    if (kind == AnswerKey::Answers) return {start + answerOnDesk() + values};
     std::vector<std::string> lines = stepsOnDesk();
-    lines.front().insert(0, start);
+    lines.front() = start + lines.front() + values;
     return lines;
 }
 
@@ -98,11 +91,6 @@ void showTest(const MadeTest& test) {
     }
 }
 
-std::array<std::string, 3> headingWith(std::array<std::string, 3> heading, const std::string& addition) {
-    if (!addition.empty()) heading[1] += heading[1].empty() ? addition : " - " + addition;
-    return heading;
-}
-
 }  // namespace
 
 int TestTopicRow(std::string_view topic) {
@@ -127,14 +115,23 @@ std::vector<MadeTest> makeTests(const TestPlan& plan) {
     return tests;
 }
 
-std::vector<TestSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTest>& tests) {
-    std::vector<TestSheet> sheets;
+std::vector<PrintSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTest>& tests) {
+    std::vector<PrintSheet> sheets;
     for (const MadeTest& test : tests) {
-        const std::string version = test.version.empty() ? "" : "Version " + test.version;
-        const std::string foot = "Seed " + textOf(static_cast<std::int64_t>(test.seed));
-        const auto heading = headingWith(plan.heading, version);
-        sheets.push_back({heading, test.lines, foot});
-        if (!test.key.empty()) sheets.push_back({headingWith(heading, "Answer Key"), test.key, foot, true});
+        PrintSheet sheet;
+        sheet.Heading = plan.heading;
+        sheet.Version = test.version;
+        sheet.Seed = textOf(static_cast<std::int64_t>(test.seed));
+        PrintSheet key = sheet;
+        sheet.Lines = test.lines;
+        sheet.NameLine = plan.nameLine;
+        sheet.Space = plan.space;
+        sheet.Columns = plan.columns;
+        sheets.push_back(std::move(sheet));
+        if (test.key.empty()) continue;
+        key.What = PrintSheet::Kind::Answers;
+        key.Lines = test.key;
+        sheets.push_back(std::move(key));
     }
     return sheets;
 }

@@ -18,6 +18,8 @@ namespace ordwise {
 
 inline constexpr int mostSections = 10;
 inline constexpr int mostVersions = 3;
+inline constexpr int mostSpace = 20;  // lines below a problem: with more, a page has no room for it
+inline constexpr int mostColumns = 2;
 
 struct TestSection {
     std::string topic;
@@ -34,6 +36,9 @@ struct TestPlan {
     AnswerKey key = AnswerKey::None;
     int versions = 1;
     std::uint64_t seed = 0;
+    bool nameLine = true;  // above the heading of each test
+    int space = 0;         // lines to work in below each problem
+    int columns = 1;       // of problems, in sections of short ones
 };
 
 // One version of a test.
@@ -52,8 +57,8 @@ int TestTopicRow(std::string_view topic);
 // 200 lines.
 [[nodiscard]] std::vector<MadeTest> makeTests(const TestPlan& plan);
 
-// The pages to be previewed and printed: each version, and behind it its key, with the seed at the foot.
-[[nodiscard]] std::vector<TestSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTest>& tests);
+// The pages to be previewed and printed: each version, and behind it its key.
+[[nodiscard]] std::vector<PrintSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTest>& tests);
 
 // The answer to the problem that has just been solved on the worksheet, or all of its lines.
 // e.g. Solving Equations, x+3=12 -> "x=9"

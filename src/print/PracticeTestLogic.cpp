@@ -10,6 +10,7 @@
 #include "Workspace.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace ordwise {
 namespace {
@@ -62,7 +63,11 @@ std::uint64_t seedOfWindow() {
 }  // namespace
 
 void PracticeTest_Load() {
-    frmPracticeTest = PracticeTestWindow{};
+    PracticeTestWindow fresh;
+    fresh.NameLine.Checked = frmPracticeTest.NameLine.Checked;
+    fresh.Space.ListIndex = frmPracticeTest.Space.ListIndex;
+    fresh.Columns.ListIndex = frmPracticeTest.Columns.ListIndex;
+    frmPracticeTest = std::move(fresh);
     for (const TreeRow& row : topicTree()) {
         frmPracticeTest.TreeView1.push_back({std::string(row.parent), std::string(row.key), std::string(row.text),
                                              row.key.empty() ? "book2" : "book1"});
@@ -139,6 +144,10 @@ TestPlan planOfWindow() {
     plan.key = static_cast<AnswerKey>(frmPracticeTest.AnswerKey.ListIndex);
     plan.versions = frmPracticeTest.Versions.ListIndex + 1;
     plan.seed = seedOfWindow();
+    constexpr int spaces[] = {0, 2, 5, 10};  // as the list has them
+    plan.space = spaces[frmPracticeTest.Space.ListIndex];
+    plan.columns = frmPracticeTest.Columns.ListIndex + 1;
+    plan.nameLine = frmPracticeTest.NameLine.Checked;
     return plan;
 }
 
@@ -146,6 +155,7 @@ void PracticeCommand2_Click() {
     {
         const BusyPointer busy;
         const TestPlan plan = planOfWindow();
+        frmPrintPreview.Title = "Practice Test";
         frmPrintPreview.Sheets = sheetsOf(plan, makeTests(plan));
     }
     platform.windows->show("frmPrintPreview");

@@ -8,6 +8,7 @@
 namespace ordwise {
 
 // Opens the window: empty outline, three problems a section, the usual heading with today's date.
+// Name line, room and columns stay as they were chosen.
 void PracticeTest_Load();
 void PracticeTest_Unload();
 

@@ -1,16 +1,18 @@
 #include "Printing.hpp"
 
-#include "GraphPlot.hpp"
+#include "Fault.hpp"
 #include "GraphWindow.hpp"
 #include "Platform.hpp"
 #include "PrintWindows.hpp"
-#include "PrintingPages.hpp"
+#include "PrintedPages.hpp"
 #include "StepDisplay.hpp"
 #include "Workspace.hpp"
 
 #include <algorithm>
 #include <array>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace ordwise {
 namespace {
@@ -18,8 +20,7 @@ namespace {
 constexpr int lineTopic = 106;   // "Graphing A Line Using Two Points"
 constexpr int pointTopic = 108;  // "Plotting A Point"
 
-constexpr double solutionPoints = 12;
-constexpr double explanationPoints = 10;
+constexpr const char* notLaidOut = "Nothing was printed, because the pages could not be laid out.";
 
 using Heading = std::array<std::string, 3>;
 
@@ -33,38 +34,21 @@ Heading heading() {
     return {frmPrintSetup.Text1.Text, frmPrintSetup.Text2.Text, frmPrintSetup.Text3.Text};
 }
 
-void printOwnHeading(PageSurface& page) {
-    printHeading(page, heading());
-    page.printLine("");
-}
-
-void printExplanation(PageSurface& page, const std::string& note) {
-    page.FontFace = Face::Note;
-    page.FontSize = explanationPoints;
-    if (!note.empty()) PrintLine(note, page, true);
-    page.FontSize = solutionPoints;
-    page.printLine("");
-    page.FontFace = Face::Halvern;
-}
-
-// An explanation at the top of a page would explain nothing: its step goes with it.
-void printExplainedStep(PageSurface& page, const std::string& line, const std::string& note) {
-    constexpr double lastTop = 515;  // below it, the step finds room and its explanation none
-    if (page.CurrentY > lastTop && !line.empty()) beginPage(page);
-    PrintLine(line, page, false);
-    printExplanation(page, note);
+PrintSheet sheetUnderHeading(PrintSheet::Kind kind) {
+    PrintSheet sheet;
+    sheet.What = kind;
+    sheet.Heading = heading();
+    return sheet;
 }
 
 // Slot 0 holds no step: its note is the hint how to type a problem.
-void layOutSolution(PageSurface& page, bool withExplanations) {
-    printOwnHeading(page);
+PrintSheet solutionSheet(bool withExplanations) {
+    PrintSheet sheet = sheetUnderHeading(PrintSheet::Kind::Solution);
     for (int i = 1; i <= lastShownStep(); ++i) {
-        if (withExplanations) {
-            printExplainedStep(page, ws.StepLines[i], ws.StepNotes[i]);
-        } else {
-            PrintCloseLine(ws.StepLines[i], page);
-        }
+        sheet.Lines.push_back(ws.StepLines[i]);
+        if (withExplanations) sheet.Notes.push_back(ws.StepNotes[i]);
     }
+    return sheet;
 }
 
 // The graph may be one of a problem that is gone from the desk.
@@ -74,27 +58,28 @@ Heading graphHeading() {
     return lines;
 }
 
-// The window's picture drawn anew at the size of the page, so that it is as sharp as the paper.
-void layOutGraph(PageSurface& page, const PaperSize& paper) {
-    constexpr double belowProblem = 6;  // a denominator reaches down
-    printHeading(page, graphHeading());
-    page.printLine("");
-    for (const std::string& line : frmGraph.subject.lines) PrintLine(line, page, false);
-    page.printLine("");
-    page.CurrentY += belowProblem;
-    const double width = paper.width - 2 * paper.margin;
-    const double height = paper.height - 2 * paper.margin;
-    const double top = page.CurrentY / pageUnitsDown * height;
-    GraphWindow picture = frmGraph;
-    picture.Width = std::min(width, height - top);
-    picture.Height = picture.Width;
-    sizeGraph(picture);
-    drawGraph(picture);
-    page.place(picture.drawn(), (width - picture.Width) / 2, top);
+PrintSheet graphSheet() {
+    PrintSheet sheet;
+    sheet.What = PrintSheet::Kind::Graph;
+    sheet.Heading = graphHeading();
+    sheet.Lines = frmGraph.subject.lines;
+    return sheet;
+}
+
+// A fault while the sheet is read, from a solution that was cut off, prints nothing.
+template <class Sheet>
+bool printSheet(const std::string& title, Sheet sheet) {
+    try {
+        return printSheets(title, {sheet()});
+    } catch (const RunTimeFault&) {
+        frmMain.StatusText = notLaidOut;
+        return false;
+    }
 }
 
 void enableOK() {
     frmPrintSetup.Command2.Enabled = frmPrintSetup.Check1.Checked || frmPrintSetup.Check2.Checked;
+    frmPrintSetup.Command4.Enabled = frmPrintSetup.Command2.Enabled;
 }
 
 }  // namespace
@@ -136,9 +121,15 @@ void frmPrintSetup_Command1_Click() {
     platform.windows->unload("frmPrintSetup");
 }
 
+// What has been printed is not offered again when the job behind it was cancelled.
 void frmPrintSetup_Command2_Click() {
-    if (frmPrintSetup.Check2.Checked && !printSolution(frmPrintSetup.Check3.Checked)) return;
-    if (frmPrintSetup.Check1.Checked && !PrintTheGraph()) return;
+    const bool solution = frmPrintSetup.Check2.Checked;
+    if (solution && !printSolution(frmPrintSetup.Check3.Checked)) return;
+    if (frmPrintSetup.Check1.Checked && !PrintTheGraph()) {
+        frmPrintSetup.Check2.Checked = false;
+        if (solution) frmMain.StatusText = "The solution is printed, its graph is not.  " + frmMain.StatusText;
+        return;
+    }
     frmPrintSetup_Command1_Click();
 }
 
@@ -147,14 +138,27 @@ void frmPrintSetup_Command3_Click() {
     frmPrintSetup_Paint();
 }
 
+void frmPrintSetup_Command4_Click() {
+    try {
+        std::vector<PrintSheet> sheets;
+        if (frmPrintSetup.Check2.Checked) sheets.push_back(solutionSheet(frmPrintSetup.Check3.Checked));
+        if (frmPrintSetup.Check1.Checked && frmGraph.Loaded) sheets.push_back(graphSheet());
+        frmPrintPreview.Sheets = std::move(sheets);
+        frmPrintPreview.Title = heading()[1];
+    } catch (const RunTimeFault&) {
+        frmMain.StatusText = notLaidOut;
+        return;
+    }
+    platform.windows->show("frmPrintPreview");
+}
+
 bool printSolution(bool withExplanations) {
-    return printPages(heading()[1], [=](PageSurface& page) { layOutSolution(page, withExplanations); });
+    return printSheet(heading()[1], [&] { return solutionSheet(withExplanations); });
 }
 
 bool PrintTheGraph() {
     if (!frmGraph.Loaded) return false;
-    return printPages(graphHeading()[1] + " Graph",
-                      [](PageSurface& page) { layOutGraph(page, platform.printer->paper()); });
+    return printSheet(graphHeading()[1] + " Graph", graphSheet);
 }
 
 }  // namespace ordwise

@@ -3,22 +3,19 @@
 
 #include "Platform.hpp"
 
+#include <map>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace ordwise {
 
 // Stands in for the dialogs and windows of the platform as long as it lives. An input box, which asks
-// for the value of a letter, is answered with a digit 2 to 9.
+// for the value of a letter, is answered with the value that the letter has in the problem.
 class SilentOutside : public Dialogs, public WindowOpener {
 public:
-    SilentOutside();
+    explicit SilentOutside(std::map<std::string, std::string> values);
     ~SilentOutside() override;
     SilentOutside(const SilentOutside&) = delete;
     SilentOutside& operator=(const SilentOutside&) = delete;
-
-    std::vector<std::pair<std::string, std::string>> answered;  // caption of an input box, its answer
 
     MessageAnswer messageBox(std::string_view text, std::string_view caption, MessageButtons buttons) override;
     std::string inputBox(std::string_view prompt, std::string_view caption) override;
@@ -26,6 +23,7 @@ public:
     void unload(std::string_view name) override;
 
 private:
+    std::map<std::string, std::string> values_;
     Platform before_;
 };
 

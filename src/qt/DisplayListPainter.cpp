@@ -2,6 +2,7 @@
 
 #include "Art.hpp"
 #include "HalvernShapes.hpp"
+#include "PlainForm.hpp"
 
 #include <QGlyphRun>
 #include <QPaintEngine>
@@ -10,9 +11,12 @@
 #include <QRawFont>
 
 #include <map>
+#include <utility>
 
 namespace ordwise {
 namespace {
+
+constexpr double textPoints = 12;  // of text that nobody sees
 
 QColor colourOf(Colour colour) {
     return QColor(colour.red, colour.green, colour.blue);
@@ -56,35 +60,69 @@ QPainterPath pathOf(const Shape& shape, double em, double stretch) {
     return path;
 }
 
+// Letters that nobody sees, spread over a width.
+void paintUnseen(QPainter& painter, const QString& text, double x, double base, double width, double em) {
+    const QRawFont font = rawFont(Face::Halvern, em);
+    const QList<quint32> glyphs = font.glyphIndexesForString(text);
+    QList<QPointF> places;
+    double end = 0;
+    for (const QPointF& advance : font.advancesForGlyphIndexes(glyphs)) {
+        places << QPointF(end, 0);
+        end += advance.x();
+    }
+    if (end <= 0) return;
+    QGlyphRun run;
+    run.setRawFont(font);
+    run.setGlyphIndexes(glyphs);
+    run.setPositions(places);
+    painter.save();
+    painter.setPen(QColor(0, 0, 0, 0));
+    painter.translate(x, base);
+    painter.scale(width / end, 1);
+    painter.drawGlyphRun(QPointF(), run);
+    painter.restore();
+}
+
+// What the letters of a run become.
+enum class LetterUse {
+    Seen,      // letters, and signs are shapes
+    Readable,  // signs have letters that nobody sees, too
+    Shapes     // none: the text of the place is told otherwise
+};
+
 class OperationPainter {
 public:
     explicit OperationPainter(QPainter& painter)
         : painter_(painter), pixels_(painter.paintEngine()->type() == QPaintEngine::Raster) {}
+
+    LetterUse letters = LetterUse::Seen;
 
     void operator()(const Glyphs& run) {
         const QColor colour = colourOf(run.colour);
         const double em = emOf(run.face, run.size);
         const double base = baselineOf(run);
         const QRawFont font = rawFont(run.face, em);
-        QList<quint32> glyphs;
-        QList<QPointF> places;
+        GlyphsInARow row;
+        painter_.setPen(colour);
         for (const PlacedGlyph& glyph : placedGlyphs(run)) {
             if (glyph.shape != nullptr) {
                 painter_.fillPath(pathOf(*glyph.shape, em, glyph.stretch).translated(glyph.x, base), colour);
+                if (letters != LetterUse::Readable) continue;
+                drawRow(row, font);  // whoever copies gets it in this order
+                const double width = glyph.stretch * textWidth(run.face, glyph.character, run.size);
+                paintUnseen(painter_, qstringOf(plainText(glyph.character)), glyph.x, base, width, em);
                 continue;
             }
             for (const quint32 index : font.glyphIndexesForString(qstringOf(glyph.character))) {
-                glyphs << index;
-                places << QPointF(glyph.x, base);
+                if (letters == LetterUse::Shapes) {
+                    painter_.fillPath(font.pathForGlyph(index).translated(glyph.x, base), colour);
+                } else {
+                    row.indexes << index;
+                    row.places << QPointF(glyph.x, base);
+                }
             }
         }
-        if (glyphs.isEmpty()) return;
-        QGlyphRun glyphRun;
-        glyphRun.setRawFont(font);
-        glyphRun.setGlyphIndexes(glyphs);
-        glyphRun.setPositions(places);
-        painter_.setPen(colour);
-        painter_.drawGlyphRun(QPointF(), glyphRun);
+        drawRow(row, font);
     }
 
     // A stroke that begins where the last one ended goes on with it, so that a traced curve is one
@@ -104,6 +142,11 @@ public:
         painter_.setPen(QPen(colourOf(circle.colour), circle.width));
         painter_.setBrush(circle.filled ? QBrush(colourOf(circle.colour)) : QBrush(Qt::NoBrush));
         painter_.drawEllipse(QPointF(circle.x, circle.y), circle.radius, circle.radius);
+    }
+
+    void paint(const DrawOperation& operation) {
+        if (!std::holds_alternative<Stroke>(operation)) finishPath();
+        std::visit(*this, operation);
     }
 
     // Draws the strokes that are still held back for others to join them.
@@ -126,6 +169,20 @@ public:
     }
 
 private:
+    struct GlyphsInARow {
+        QList<quint32> indexes;
+        QList<QPointF> places;
+    };
+
+    void drawRow(GlyphsInARow& row, const QRawFont& font) {
+        if (row.indexes.isEmpty()) return;
+        QGlyphRun run;
+        run.setRawFont(font);
+        run.setGlyphIndexes(std::exchange(row.indexes, {}));
+        run.setPositions(std::exchange(row.places, {}));
+        painter_.drawGlyphRun(QPointF(), run);
+    }
+
     QPainter& painter_;
     bool pixels_;
     QPolygonF path_;
@@ -167,9 +224,25 @@ void replay(const DisplayList& list, QPainter& painter) {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     OperationPainter paint(painter);
-    for (const DrawOperation& operation : list) {
-        if (!std::holds_alternative<Stroke>(operation)) paint.finishPath();
-        std::visit(paint, operation);
+    for (const DrawOperation& operation : list) paint.paint(operation);
+    paint.finishPath();
+    painter.restore();
+}
+
+void replayReadable(const DisplayList& list, const std::vector<PageText>& texts, QPainter& painter) {
+    painter.save();
+    OperationPainter paint(painter);
+    auto text = texts.begin();
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        if (text != texts.end() && i == text->last) ++text;
+        const bool told = text != texts.end() && i >= text->first;
+        if (told && i == text->first) {
+            const Glyphs place{"", text->x, text->y, Face::Halvern, textPoints, black};
+            paintUnseen(painter, qstringOf(text->text), text->x, baselineOf(place), text->width,
+                        emOf(Face::Halvern, textPoints));
+        }
+        paint.letters = told ? LetterUse::Shapes : LetterUse::Readable;
+        paint.paint(list[i]);
     }
     paint.finishPath();
     painter.restore();

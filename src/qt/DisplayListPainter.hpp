@@ -2,9 +2,12 @@
 #pragma once
 
 #include "DisplayList.hpp"
+#include "Platform.hpp"
 
 #include <QFont>
 #include <QRectF>
+
+#include <vector>
 
 class QPainter;
 
@@ -15,6 +18,11 @@ namespace ordwise {
 
 // Draws the list with its origin at the painter's; one unit of the surface is one of the painter.
 void replay(const DisplayList& list, QPainter& painter);
+
+// The same for a file whose text can be copied. What is drawn by shapes of our own has letters that
+// nobody sees: each sign its own in its place, and the stretches of `texts` what they say, in place of
+// the letters that are drawn there.
+void replayReadable(const DisplayList& list, const std::vector<PageText>& texts, QPainter& painter);
 
 // The room that an operation takes, with space for strokes that reach over their glyph's line.
 [[nodiscard]] QRectF extentOf(const DrawOperation& operation);

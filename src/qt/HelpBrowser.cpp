@@ -113,6 +113,14 @@ QImage HelpBrowser::pictureOfLine(std::string_view markup) const {
     return image;
 }
 
+void HelpBrowser::printOn(QPagedPaintDevice& device) {
+    const int place = verticalScrollBar()->value();
+    setPalette(QPalette(Qt::lightGray));  // reloads the page where that changes anything
+    print(&device);
+    setPalette(QPalette());
+    verticalScrollBar()->setValue(place);
+}
+
 void HelpBrowser::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() != QEvent::PaletteChange) return;

@@ -9,6 +9,8 @@
 
 #include <string_view>
 
+class QPagedPaintDevice;
+
 namespace ordwise {
 
 class HelpBrowser : public QTextBrowser {
@@ -18,6 +20,9 @@ public:
     // 1 is the size of the desktop's own letters.
     void setZoom(double zoom);
     [[nodiscard]] double zoom() const { return zoom_; }
+
+    // Prints the page in view, black on white also from a dark desktop.
+    void printOn(QPagedPaintDevice& device);
 
     // A page's HTML. e.g. pageText("welcome.html")
     [[nodiscard]] static QString pageText(const QString& file);

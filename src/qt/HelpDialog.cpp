@@ -223,7 +223,7 @@ void HelpDialog::findNext() {
 void HelpDialog::printPage() {
     QPrinter printer;
     QPrintDialog dialog(&printer, this);
-    if (dialog.exec() == QDialog::Accepted) page_->print(&printer);
+    if (dialog.exec() == QDialog::Accepted) page_->printOn(printer);
 }
 
 void HelpDialog::closeEvent(QCloseEvent* event) {

@@ -2,9 +2,11 @@
 
 #include "Art.hpp"
 #include "DisplayListPainter.hpp"
+#include "PdfProperties.hpp"
 
 #include <QBuffer>
 #include <QLocale>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPdfWriter>
 
@@ -27,6 +29,13 @@ QPageSize pageSizeOf(const PaperSize& paper) {
     return QPageSize(QSizeF(paper.width, paper.height) * points, QPageSize::Point);
 }
 
+void paintReadablePage(QPainter& painter, const PaperSize& paper, const PrintedPage& page) {
+    painter.save();
+    painter.translate(paper.margin, paper.margin);
+    replayReadable(page.drawing, page.texts, painter);
+    painter.restore();
+}
+
 }  // namespace
 
 void paintPage(QPainter& painter, const PaperSize& paper, const DisplayList& page) {
@@ -44,10 +53,14 @@ bool paintPages(QPagedPaintDevice& device, const std::vector<PrintJob>& jobs) {
     painter.scale(device.logicalDpiX() / unitsOfInch, device.logicalDpiY() / unitsOfInch);
     bool fresh = true;
     for (const PrintJob& job : jobs) {
-        for (const DisplayList& page : job.pages) {
+        for (const PrintedPage& page : job.pages) {
             if (!fresh && !device.newPage()) return false;
             fresh = false;
-            paintPage(painter, job.paper, page);
+            if (painter.paintEngine()->type() == QPaintEngine::Pdf) {
+                paintReadablePage(painter, job.paper, page);
+            } else {
+                paintPage(painter, job.paper, page.drawing);
+            }
         }
     }
     return painter.end();
@@ -66,7 +79,8 @@ QByteArray pagesAsPdf(const std::vector<PrintJob>& jobs) {
         pdf.setPageSize(pageSizeOf(jobs.front().paper));
     }
     (void)paintPages(pdf, jobs);  // memory takes everything
-    return bytes;
+    buffer.close();
+    return withProperties(bytes, "Ordwise", "en");
 }
 
 PaperSize paperOf(const QPageLayout& layout) {

@@ -72,7 +72,7 @@ void PageView::paintPaper() {
     painter.setClipRect(sheet);
     painter.translate(around, around);
     painter.scale(scale_, scale_);
-    paintPage(painter, frmPrintPreview.Paper, frmPrintPreview.Picture1[frmPrintPreview.FrontPage].Picture.drawn());
+    paintPage(painter, frmPrintPreview.Paper, frmPrintPreview.Picture1.drawn());
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {

@@ -75,6 +75,7 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
     lower->addWidget(new HeadingEdits(this, {&frmPracticeTest.Text1, &frmPracticeTest.Text2, &frmPracticeTest.Text3}),
                      1);
     lower->addWidget(variants());
+    lower->addWidget(paper());
     right->addLayout(lower);
     auto* columns = new QHBoxLayout;
     columns->addWidget(topics(), 2);
@@ -165,6 +166,20 @@ void PracticeTestDialog::addSection(int number, QGridLayout& grid) {
     grid.addWidget(section.count, row, 2);
     grid.addWidget(section.complex, row, 3);
     grid.addWidget(section.clear, row, 4);
+}
+
+QWidget* PracticeTestDialog::paper() {
+    auto* group = new QGroupBox(QStringLiteral("On Paper"), this);
+    auto* form = new QFormLayout(group);
+    form->addRow(QStringLiteral("&Work space"), comboOf(this, frmPracticeTest.Space, QStringLiteral("Space")));
+    form->addRow(QStringLiteral("C&olumns"), comboOf(this, frmPracticeTest.Columns, QStringLiteral("Columns")));
+    auto* name = new QCheckBox(QStringLiteral("&Name line"), group);
+    name->setObjectName(QStringLiteral("NameLine"));
+    name->setChecked(frmPracticeTest.NameLine.Checked);
+    name->setToolTip(QStringLiteral("Room for name, date and class above the heading of a test"));
+    connect(name, &QCheckBox::toggled, this, [](bool checked) { frmPracticeTest.NameLine.Checked = checked; });
+    form->addRow(name);
+    return group;
 }
 
 QWidget* PracticeTestDialog::variants() {

@@ -44,6 +44,7 @@ private:
     [[nodiscard]] QWidget* topics();
     [[nodiscard]] QWidget* outline();
     [[nodiscard]] QWidget* variants();
+    [[nodiscard]] QWidget* paper();
     void addSection(int number, QGridLayout& grid);
     void fillList();
     void connectTopics();

@@ -141,7 +141,7 @@ void PrintPreviewDialog::showChanges() {
     back_->setEnabled(frmPrintPreview.Command4.Enabled);
     forward_->setEnabled(frmPrintPreview.Command5.Enabled);
     device_->setText(qstringOf(frmPrintPreview.Label1.Text));
-    news_->showSentence(qstringOf(frmMain.StatusText), false);
+    news_->showSentence(qstringOf(frmPrintPreview.Note), false);
     page_->setAccessibleDescription(QStringLiteral("Page %1 of %2").arg(frmPrintPreview.FrontPage + 1).arg(pages));
     page_->showPage();
     if (shownPage_ != frmPrintPreview.FrontPage) page_->verticalScrollBar()->setValue(0);

@@ -1,4 +1,4 @@
-// frmPrintPreview: the pages of a practice test, one at a time, as the paper gets them.
+// frmPrintPreview: the pages of a practice test or a solution, one at a time, as the paper gets them.
 #pragma once
 
 #include "DeskWindows.hpp"

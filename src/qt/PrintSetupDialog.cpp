@@ -32,6 +32,7 @@ PrintSetupDialog::PrintSetupDialog(QWidget* parent, Stage& stage)
       explanation_(&addCheck(frmPrintSetup.Check3, "Check3", QStringLiteral("&Explanation"), [] {})),
       device_(new QLabel(this)),
       ok_(nullptr),
+      preview_(nullptr),
       news_(new StatusLine(this)) {
     setObjectName(QStringLiteral("frmPrintSetup"));
     setWindowTitle(QStringLiteral("Print"));
@@ -62,6 +63,10 @@ PrintSetupDialog::PrintSetupDialog(QWidget* parent, Stage& stage)
     QPushButton* cancel = buttons->addButton(qstringOf(frmPrintSetup.Command1.Text), QDialogButtonBox::RejectRole);
     cancel->setObjectName(QStringLiteral("Command1"));
 
+    preview_ = buttons->addButton(QStringLiteral("Pre&view..."), QDialogButtonBox::ActionRole);
+    preview_->setObjectName(QStringLiteral("Command4"));
+    preview_->setAutoDefault(false);
+
     auto* job = new QWidget(this);
     auto* column = new QVBoxLayout(job);
     column->setContentsMargins(0, 0, 0, 0);
@@ -76,6 +81,7 @@ PrintSetupDialog::PrintSetupDialog(QWidget* parent, Stage& stage)
     fitToScreen(*this, QSize(420, sizeHint().height()));
 
     connect(setup, &QPushButton::clicked, this, [this] { stage_.perform(frmPrintSetup_Command3_Click); });
+    connect(preview_, &QPushButton::clicked, this, [this] { stage_.perform(frmPrintSetup_Command4_Click); });
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { stage_.perform(frmPrintSetup_Command2_Click); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     showChanges();
@@ -100,6 +106,7 @@ void PrintSetupDialog::showChanges() {
     explanation_->setEnabled(frmPrintSetup.Check3.Enabled && frmPrintSetup.Check2.Checked);
     device_->setText(qstringOf(frmPrintSetup.Label1.Text));
     ok_->setEnabled(frmPrintSetup.Command2.Enabled);
+    preview_->setEnabled(frmPrintSetup.Command4.Enabled);
     news_->showSentence(qstringOf(frmMain.StatusText), !frmMain.StatusText.empty());
 }
 

@@ -31,6 +31,7 @@ private:
     QCheckBox* explanation_;
     QLabel* device_;
     QPushButton* ok_;
+    QPushButton* preview_;
     StatusLine* news_;  // why nothing was printed
 };
 

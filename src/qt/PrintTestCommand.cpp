@@ -4,13 +4,15 @@
 #include "FreshProgram.hpp"
 #include "PlainPlatform.hpp"
 #include "PracticeTest.hpp"
-#include "PrintPreview.hpp"
+#include "PrintedLines.hpp"
+#include "PrintedPages.hpp"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
+#include <limits>
 
 namespace ordwise {
 namespace {
@@ -45,18 +47,45 @@ std::array<std::string, 3> headingOf(const QJsonObject& test) {
     return heading;
 }
 
+qint64 numberOf(const QJsonObject& object, const char* name, qint64 least, qint64 most) {
+    const qint64 number = object.value(QLatin1String(name)).toInteger(-1);
+    if (number < least || number > most)
+        throw NotATest(QStringLiteral("\"%1\" is no whole number").arg(QLatin1String(name)));
+    return number;
+}
+
+// How the sheets are laid out, where the test says so.
+void readLayout(const QJsonObject& test, TestPlan& plan) {
+    plan.nameLine = test.value(QStringLiteral("nameLine")).toBool(true);
+    if (test.contains(QStringLiteral("space"))) plan.space = static_cast<int>(numberOf(test, "space", 0, mostSpace));
+    if (test.contains(QStringLiteral("columns")))
+        plan.columns = static_cast<int>(numberOf(test, "columns", 1, mostColumns));
+}
+
+std::uint64_t seedOf(const QJsonObject& object) {
+    return static_cast<std::uint64_t>(numberOf(object, "seed", 0, std::numeric_limits<qint64>::max()));
+}
+
+// A test of older days has no seed, and a seed may be larger than what is read exactly.
+std::vector<PrintSheet> onlySheet(const QJsonObject& test, const TestPlan& plan, std::vector<std::string> lines) {
+    constexpr double largestRead = 9.2e18;
+    const QJsonValue seed = test.value(QStringLiteral("seed"));
+    const bool seeded = !seed.isUndefined() && seed.toDouble() < largestRead;
+    std::vector<PrintSheet> sheets = sheetsOf(plan, {MadeTest{seeded ? seedOf(test) : 0, "", std::move(lines), {}}});
+    if (!seeded) sheets.front().Seed.clear();
+    return sheets;
+}
+
 MadeTest versionOf(const QJsonValue& value) {
     if (!value.isObject()) throw NotATest(QStringLiteral("\"versions\" is no list of objects"));
     const QJsonObject version = value.toObject();
-    const QJsonValue seed = version.value(QStringLiteral("seed"));
     const QJsonValue name = version.value(QStringLiteral("version"));
-    if (seed.toInteger(-1) < 0) throw NotATest(QStringLiteral("\"seed\" is no whole number"));
     if (!name.isString()) throw NotATest(QStringLiteral("\"version\" is no text"));
-    return {static_cast<std::uint64_t>(seed.toInteger()), name.toString().toStdString(),
-            textsOf(version, QStringLiteral("lines")), textsOf(version, QStringLiteral("key"))};
+    return {seedOf(version), name.toString().toStdString(), textsOf(version, QStringLiteral("lines")),
+            textsOf(version, QStringLiteral("key"))};
 }
 
-std::vector<TestSheet> sheetsOfJson(const QByteArray& line) {
+std::vector<PrintSheet> sheetsOfJson(const QByteArray& line) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(line, &error);
     if (error.error != QJsonParseError::NoError) throw NotATest(error.errorString());
@@ -66,20 +95,21 @@ std::vector<TestSheet> sheetsOfJson(const QByteArray& line) {
     plan.heading = headingOf(test);
     const std::vector<std::string> lines = textsOf(test, QStringLiteral("lines"));
     const QJsonValue versions = test.value(QStringLiteral("versions"));
-    if (versions.isUndefined()) return {{plan.heading, lines, ""}};
+    readLayout(test, plan);
+    if (versions.isUndefined()) return onlySheet(test, plan, lines);
     if (!versions.isArray()) throw NotATest(QStringLiteral("\"versions\" is no list of objects"));
     std::vector<MadeTest> tests;
     for (const QJsonValue& version : versions.toArray()) tests.push_back(versionOf(version));
     return sheetsOf(plan, tests);
 }
 
-CommandEnd readTests(const QByteArray& json, std::vector<TestSheet>& sheets) {
+CommandEnd readTests(const QByteArray& json, std::vector<PrintSheet>& sheets) {
     int number = 0;
     for (const QByteArray& line : json.split('\n')) {
         ++number;
         if (line.trimmed().isEmpty()) continue;
         try {
-            for (TestSheet& sheet : sheetsOfJson(line)) sheets.push_back(std::move(sheet));
+            for (PrintSheet& sheet : sheetsOfJson(line)) sheets.push_back(std::move(sheet));
         } catch (const NotATest& trouble) {
             return {CommandEnd::Unreadable,
                     QStringLiteral("Line %1 of the input is no practice test: %2.").arg(number).arg(trouble.why())};
@@ -89,13 +119,11 @@ CommandEnd readTests(const QByteArray& json, std::vector<TestSheet>& sheets) {
     return {CommandEnd::Unreadable, QStringLiteral("There is no practice test in the input.")};
 }
 
-// The first line with marks that do not belong together; "" if all can be drawn.
-std::string lineNotDrawn(const std::vector<TestSheet>& sheets, const PlainDialogs& dialogs) {
-    PageSurface trial(PaperSize{});
-    for (const TestSheet& sheet : sheets) {
+// The first line that has marks which do not belong together; "" if all can be drawn.
+std::string lineNotDrawn(const std::vector<PrintSheet>& sheets, const PaperSize& paper) {
+    for (const PrintSheet& sheet : sheets) {
         for (const std::string& line : sheet.Lines) {
-            PrintLine(line, trial, false);
-            if (!dialogs.messages.empty()) return line;
+            if (!roomOf({PlannedLine::Kind::Math, line}, paper).drawable) return line;
         }
     }
     return "";
@@ -107,16 +135,16 @@ CommandEnd printTests(const QByteArray& json, const QString& file, const PaperSi
     startFreshProgram();
     PlainPlatform outside;
     outside.printer.size = paper;
-    std::vector<TestSheet> sheets;
+    std::vector<PrintSheet> sheets;
     const CommandEnd read = readTests(json, sheets);
     if (read.status != CommandEnd::Done) return read;
-    const std::string notDrawn = lineNotDrawn(sheets, outside.dialogs);
+    const std::string notDrawn = lineNotDrawn(sheets, paper);
     if (!notDrawn.empty()) {
         constexpr int shown = 60;
         return {CommandEnd::Refused,
                 QStringLiteral("This line of the test cannot be drawn: %1").arg(qstringOf(notDrawn).left(shown))};
     }
-    if (!printSheets(sheets)) return {CommandEnd::Refused, qstringOf(frmMain.StatusText)};
+    if (!printSheets("Practice Test", sheets)) return {CommandEnd::Refused, qstringOf(frmMain.StatusText)};
     return writePages(file, outside.printer.jobs);
 }
 

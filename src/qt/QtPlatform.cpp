@@ -92,6 +92,10 @@ std::string QtClock::today() const {
     return locale.toString(QDate::currentDate(), format).toStdString();
 }
 
+std::string QtClock::todayForPrograms() const {
+    return QDate::currentDate().toString(Qt::ISODate).toStdString();
+}
+
 std::string QtClock::todayForFile() const {
     return QDate::currentDate().toString(QStringLiteral("MM-dd-yy")).toStdString();
 }

@@ -44,6 +44,7 @@ class QtClock : public Clock {
 public:
     [[nodiscard]] int minuteAndSecond() const override;
     [[nodiscard]] std::string today() const override;
+    [[nodiscard]] std::string todayForPrograms() const override;
     [[nodiscard]] std::string todayForFile() const override;
 };
 

@@ -78,9 +78,10 @@ TEST(PracticeTests, ArePrintedAndMadeAgainByTheirSeed) {
         EXPECT_NE(shown.out.find(piece), std::string::npos) << piece;
     const Outcome first = cli({"test", "--section", "Ratios:2", "--seed", "12", "--json"});
     const json test = json::parse(first.out);
-    EXPECT_EQ(test.size(), 2U);
     EXPECT_EQ(test.at("heading").size(), 3U);
     EXPECT_EQ(test.at("lines").size(), 4U);
+    EXPECT_EQ(test.at("seed"), 12) << "also without a key and versions";
+    EXPECT_EQ(test.at("date").get<std::string>().size(), std::string("2026-11-22").size());
     EXPECT_EQ(first.out, cli({"test", "--section", "Ratios:2", "--seed", "12", "--json"}).out);
 }
 
@@ -96,6 +97,7 @@ TEST(PracticeTests, RefuseWhatCannotBeMade) {
         {{"Ratios:250"}, "The test has more than 200 lines."},
         {{"Ratios:2", "--key", "all"}, "--key takes none, answers or steps, not \"all\"."},
         {{"Ratios:2", "--versions", "4"}, "--versions takes 1 to 3."},
+        {{"Ratios:2", "--space", "21"}, "--space takes 0 to 20."},
     };
     for (const auto& each : cases) {
         std::vector<std::string> arguments = {"test", "--section"};

@@ -121,9 +121,9 @@ TEST_F(PracticeTests, AreLaidOutInSectionsNumberedThroughout) {
     frmPracticeTest.Seed.Text = "42";
     PracticeCommand2_Click();
     ASSERT_EQ(frmPrintPreview.Sheets.size(), 1U);
-    const TestSheet& sheet = frmPrintPreview.Sheets[0];
+    const PrintSheet& sheet = frmPrintPreview.Sheets[0];
     EXPECT_EQ(sheet.Heading[1], "Practice Test");
-    EXPECT_EQ(sheet.Foot, "Seed 42");
+    EXPECT_EQ(sheet.Seed, "42");
     const char* wanted[] = {"",
                             "Write the following ratios as fractions:",
                             "1\\) \\d:\\d",
@@ -149,7 +149,7 @@ TEST_F(PracticeTests, WithoutASectionAreAHeadingOnly) {
     PracticeCommand2_Click();
     ASSERT_EQ(frmPrintPreview.Sheets.size(), 1U);
     EXPECT_TRUE(frmPrintPreview.Sheets[0].Lines.empty());
-    EXPECT_TRUE(std::regex_match(frmPrintPreview.Sheets[0].Foot, std::regex("Seed \\d+")));
+    EXPECT_TRUE(std::regex_match(frmPrintPreview.Sheets[0].Seed, std::regex("\\d+")));
 }
 
 TEST_F(PracticeTests, NameEveryTopicByItsOwnCode) {
@@ -217,12 +217,23 @@ TEST_F(PracticeTests, AnswerEveryTopicInOneLineAndInSteps) {
     EXPECT_TRUE(outside.dialogs.prompts.empty());
 }
 
-TEST_F(PracticeTests, SayWhichValuesAPolynomialHasInTheKey) {
-    TestPlan plan = planOf("Evaluating Polynomials", 4, false, 3);
-    plan.key = AnswerKey::Answers;
+TEST_F(PracticeTests, SayWhichValuesAPolynomialHasAndUseThemInTheKey) {
+    TestPlan plan = planOf("Evaluating Polynomials", 10, true, 3);
+    plan.key = AnswerKey::Steps;
     const MadeTest test = makeTests(plan).front();
-    for (const std::string& line : test.key)
-        EXPECT_TRUE(std::regex_match(line, std::regex("\\d\\) [xyz] = \\d(, [xyz] = \\d)*: -?\\d+"))) << line;
+    const std::regex values(R"(\d+\) .*[xyz].*, when ([xyz] = \d, )?([xyz] = \d and )?[xyz] = \d)");
+    std::size_t at = 0;
+    for (std::size_t i = 2; i < test.lines.size(); ++i) {
+        EXPECT_TRUE(std::regex_match(test.lines[i], values)) << test.lines[i];
+        at = static_cast<std::size_t>(std::find(test.key.begin(), test.key.end(), test.lines[i]) - test.key.begin());
+        ASSERT_LT(at + 1, test.key.size()) << "the key begins with " << test.lines[i];
+        const std::string name = test.lines[i].substr(test.lines[i].find(", when ") + 7, 1);
+        const std::string value = test.lines[i].substr(test.lines[i].find(", when ") + 11, 1);
+        const auto end = std::find(test.key.begin() + static_cast<std::ptrdiff_t>(at), test.key.end(), "");
+        EXPECT_TRUE(std::any_of(test.key.begin() + static_cast<std::ptrdiff_t>(at), end, [&](const std::string& step) {
+            return contains(step, "(" + value + ")");
+        })) << test.lines[i];
+    }
 }
 
 TEST_F(PracticeTests, ComeInVersionsWithTheirSeedsAndKeys) {
@@ -231,11 +242,13 @@ TEST_F(PracticeTests, ComeInVersionsWithTheirSeedsAndKeys) {
     plan.key = AnswerKey::Answers;
     plan.versions = 3;
     const std::vector<MadeTest> tests = makeTests(plan);
-    const std::vector<TestSheet> sheets = sheetsOf(plan, tests);
+    const std::vector<PrintSheet> sheets = sheetsOf(plan, tests);
     ASSERT_EQ(sheets.size(), 6U);
-    EXPECT_EQ(sheets[0].Heading[1], "Test - Version A");
-    EXPECT_EQ(sheets[3].Heading[1], "Test - Version B - Answer Key");
-    EXPECT_EQ(sheets[4].Foot, "Seed 102");
+    EXPECT_EQ(sheets[0].Heading[1], "Test");
+    EXPECT_EQ(sheets[3].Version, "B");
+    EXPECT_EQ(sheets[3].What, PrintSheet::Kind::Answers);
+    EXPECT_FALSE(sheets[3].NameLine) << "a key is not handed in";
+    EXPECT_EQ(sheets[4].Seed, "102");
     EXPECT_NE(tests[0].lines, tests[1].lines);
     const std::vector<MadeTest> again = makeTests(planOf("Solving Equations", 5, false, 101));
     EXPECT_EQ(again.front().lines, tests[1].lines) << "the seed at the foot makes version B again";

@@ -3,9 +3,10 @@
 #include "GraphCommands.hpp"
 #include "GraphWindow.hpp"
 #include "PlainPlatform.hpp"
+#include "PrintPreview.hpp"
 #include "PrintWindows.hpp"
+#include "PrintedLines.hpp"
 #include "Printing.hpp"
-#include "PrintingPages.hpp"
 #include "Workspace.hpp"
 
 #include <gtest/gtest.h>
@@ -52,7 +53,7 @@ TEST_F(PrintingTest, TheHeadingIsTheTopicAndTheDate) {
     solved(2);
     frmPrintSetup_Command2_Click();
     ASSERT_EQ(outside.printer.jobs.size(), 1U);
-    const std::vector<Glyphs> runs = runsOf(job().pages.at(0));
+    const std::vector<Glyphs> runs = runsOf(job().pages.at(0).drawing);
     EXPECT_EQ(runs.at(0).text, "Class 7b");
     EXPECT_EQ(runs.at(0).x, 0);
     EXPECT_DOUBLE_EQ(runs.at(0).y, 3 * lineHeightOf(Face::Halvern, 12)) << "below three blank lines";
@@ -68,15 +69,16 @@ TEST_F(PrintingTest, StepsStandAtTheIndentInHalvernFont) {
     ws.StepNotes[2] = "Subtract 3.";
     ws.StepCount = 3;
     EXPECT_TRUE(printSolution(true));
-    for (const Glyphs& run : runsOf(job().pages[0])) EXPECT_NE(run.text, "Enter an equation.") << "no step's note";
+    for (const Glyphs& run : runsOf(job().pages[0].drawing))
+        EXPECT_NE(run.text, "Enter an equation.") << "no step's note";
     EXPECT_TRUE(printSolution(false));
-    const Glyphs first = runOf(job().pages[0], "x+3=12");
-    const Glyphs second = runOf(job().pages[0], "x=9");
+    const Glyphs first = runOf(job().pages[0].drawing, "x+3=12");
+    const Glyphs second = runOf(job().pages[0].drawing, "x=9");
     EXPECT_DOUBLE_EQ(first.x, 12 * unitAcross);
     EXPECT_EQ(first.size, 12);
     EXPECT_EQ(first.colour, black);
     EXPECT_NEAR(second.y - first.y, lineHeightOf(Face::Halvern, 12) + 12 * unitDown, 1e-9);
-    for (const Glyphs& run : runsOf(job().pages[0])) EXPECT_NE(run.text, "Subtract 3.");
+    for (const Glyphs& run : runsOf(job().pages[0].drawing)) EXPECT_NE(run.text, "Subtract 3.");
 }
 
 TEST_F(PrintingTest, ExplanationsStandInBlueUnderTheirStep) {
@@ -84,7 +86,8 @@ TEST_F(PrintingTest, ExplanationsStandInBlueUnderTheirStep) {
     EXPECT_TRUE(printSolution(true));
     EXPECT_GE(job().pages.size(), 3U);
     int notes = 0;
-    for (const DisplayList& page : job().pages) {
+    for (const PrintedPage& printed : job().pages) {
+        const DisplayList& page = printed.drawing;
         double stepAt = -1;
         for (const Glyphs& run : runsOf(page)) {
             EXPECT_GE(run.y, 0) << run.text;
@@ -112,7 +115,7 @@ TEST_F(PrintingTest, FractionsOfLinesOneBelowTheOtherDoNotMeet) {
     double above = 0;  // the foot of the fraction one line above
     double below = 0;  // and of the one being looked at
     int bars = 0;
-    for (const Glyphs& run : runsOf(job().pages[0])) {
+    for (const Glyphs& run : runsOf(job().pages[0].drawing)) {
         const double em = emOf(run.face, run.size);
         if (run.text == "p") above = below;
         if (run.text == "q") below = run.y + foot * em;
@@ -130,7 +133,7 @@ TEST_F(PrintingTest, ALineThatCannotBeDrawnIsToldAndTheRestIsPrinted) {
     EXPECT_TRUE(printSolution(false));
     ASSERT_EQ(outside.dialogs.messages.size(), 1U);
     EXPECT_EQ(outside.dialogs.messages[0].text, "An error occurred while displaying information.");
-    EXPECT_EQ(runOf(job().pages[0], "x=9").size, 12);
+    EXPECT_EQ(runOf(job().pages[0].drawing, "x=9").size, 12);
 }
 
 TEST_F(PrintingTest, WhatThePrinterRefusesIsSaidInTheStatusLine) {
@@ -142,6 +145,37 @@ TEST_F(PrintingTest, WhatThePrinterRefusesIsSaidInTheStatusLine) {
     EXPECT_TRUE(frmPrintSetup.Loaded) << "to choose another printer";
     EXPECT_TRUE(outside.dialogs.messages.empty());
     EXPECT_TRUE(outside.windows.requests.empty());
+}
+
+TEST_F(PrintingTest, AGraphThatWasCancelledDoesNotPrintTheSolutionAgain) {
+    solved(2);
+    frmGraph_Load();
+    frmPrintSetup_Load();
+    outside.printer.refuseAfter = 1;
+    outside.printer.refusal = "Printing was cancelled.";
+    frmPrintSetup_Command2_Click();
+    EXPECT_EQ(frmMain.StatusText, "The solution is printed, its graph is not.  Printing was cancelled.");
+    EXPECT_TRUE(frmPrintSetup.Loaded);
+    outside.printer.refusal.clear();
+    frmPrintSetup_Command2_Click();
+    ASSERT_EQ(outside.printer.jobs.size(), 2U);
+    EXPECT_EQ(outside.printer.jobs[0].title, "Solving Equations");
+    EXPECT_EQ(outside.printer.jobs[1].title, "Solving Equations Graph");
+}
+
+TEST_F(PrintingTest, ThePreviewShowsWhatWillBePrinted) {
+    solved(2);
+    frmGraph_Load();
+    frmPrintSetup_Load();
+    frmPrintSetup.Check3.Checked = true;
+    frmPrintSetup_Command4_Click();
+    EXPECT_EQ(outside.windows.requests.back(), "+frmPrintPreview");
+    frmPrintPreview_Load();
+    ASSERT_EQ(ws.PreviewPageCount, 1) << "the solution and the graph";
+    const DisplayList solution = frmPrintPreview.Picture1.drawn();
+    frmPrintPreview_Command1_Click();
+    ASSERT_EQ(outside.printer.jobs.size(), 2U);
+    EXPECT_EQ(outside.printer.jobs[0].pages.at(0).drawing, solution);
 }
 
 TEST_F(PrintingTest, AFaultOnTheWayPrintsNothing) {
@@ -195,9 +229,9 @@ TEST_F(PrintingTest, TheGraphIsAJobOfItsOwn) {
     frmPrintSetup_Command2_Click();
     ASSERT_EQ(outside.printer.jobs.size(), 2U);
     ASSERT_EQ(job().pages.size(), 1U);
-    EXPECT_EQ(runsOf(job().pages[0]).front().text, "Halvern Ordwise");
+    EXPECT_EQ(runsOf(job().pages[0].drawing).front().text, "Halvern Ordwise");
     std::size_t strokes = 0;
-    for (const DrawOperation& operation : job().pages[0]) {
+    for (const DrawOperation& operation : job().pages[0].drawing) {
         const auto* stroke = std::get_if<Stroke>(&operation);
         if (stroke == nullptr) continue;
         ++strokes;
@@ -214,10 +248,10 @@ TEST_F(PrintingTest, TheGraphStandsUnderItsProblemAndTheSolvedLine) {
     ws.StepCount = 3;
     frmGraph_Load();
     EXPECT_TRUE(PrintTheGraph());
-    const double problem = runOf(job().pages[0], "x+y=3").y;
-    const double line = runOf(job().pages[0], "y=3-x").y;
+    const double problem = runOf(job().pages[0].drawing, "x+y=3").y;
+    const double line = runOf(job().pages[0].drawing, "y=3-x").y;
     EXPECT_LT(problem, line);
-    for (const DrawOperation& operation : job().pages[0]) {
+    for (const DrawOperation& operation : job().pages[0].drawing) {
         const auto* stroke = std::get_if<Stroke>(&operation);
         EXPECT_TRUE(stroke == nullptr || stroke->y1 > line);
     }

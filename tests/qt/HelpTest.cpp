@@ -10,8 +10,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QLineEdit>
+#include <QPdfWriter>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 #include <QTreeWidget>
@@ -52,6 +56,21 @@ TEST_F(Help, OpensAtTheTopicInWorkAndGoesBackAndForward) {
     QTest::keyClick(help, Qt::Key_Escape);
     EXPECT_EQ(frame->windows().open("frmHelp"), nullptr);
     EXPECT_FALSE(frmHelp.Loaded);
+}
+
+TEST_F(Help, PrintsAPageBlackOnWhite) {
+    HelpDialog& help = open();
+    help.page().setSource(QUrl(QStringLiteral("fractions.html")));
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("guide.pdf"));
+    QPalette dark(Qt::black);
+    help.setPalette(dark);
+    QPdfWriter pdf(file);
+    help.page().printOn(pdf);
+    if (qEnvironmentVariableIsSet("ORDWISE_SHOTS"))
+        QFile::copy(file, qEnvironmentVariable("ORDWISE_SHOTS") + QStringLiteral("/guide.pdf"));
+    EXPECT_GT(QFileInfo(file).size(), 20000) << "with its pictures";
+    EXPECT_EQ(help.page().palette().color(QPalette::Base), dark.color(QPalette::Base)) << "the screen is as it was";
 }
 
 TEST_F(Help, DrawsEveryPageWithAllItsPictures) {

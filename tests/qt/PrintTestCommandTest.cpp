@@ -1,9 +1,15 @@
 // Practice tests made elsewhere, printed into a PDF; and input that is none.
+#include "PlainForm.hpp"
 #include "PrintTestCommand.hpp"
 
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <random>
@@ -42,6 +48,36 @@ TEST_F(PrintTestCommand, gives_every_test_every_version_and_every_key_a_page_of_
     EXPECT_EQ(pages(), 1);
     EXPECT_EQ(print("\n" + plainTest + "\r\n\n" + versions + "\n").status, CommandEnd::Done);
     EXPECT_EQ(pages(), 1 + 3) << "version A, its key, version B without one";
+}
+
+TEST_F(PrintTestCommand, gives_text_that_can_be_copied) {
+    const QString reader = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
+    if (reader.isEmpty()) GTEST_SKIP() << "there is no pdftotext";
+    const char* const lines[] = {"3y+5-8+7y=2-5y", "#3/4#+x^2^", "~9~*2-`", "6#1/3#{2",
+                                 "#4x/[2]#=8, when x = 4 and y = 5"};
+    QJsonArray problems;
+    int number = 0;
+    for (const char* line : lines) problems.append(QStringLiteral("%1) %2").arg(++number).arg(QLatin1String(line)));
+    const QString wide = QStringLiteral("6) ") + QStringLiteral("#12/345#+678-").repeated(20) + QStringLiteral("9");
+    problems.append(wide);
+    const QJsonObject test{{QStringLiteral("heading"), QJsonArray{QStringLiteral("Class 7b")}},
+                           {QStringLiteral("lines"), problems},
+                           {QStringLiteral("seed"), 7}};
+    EXPECT_EQ(print(QJsonDocument(test).toJson(QJsonDocument::Compact)).status, CommandEnd::Done);
+    QProcess reading;
+    reading.start(reader, {file, QStringLiteral("-")});
+    ASSERT_TRUE(reading.waitForFinished());
+    const QStringList read = QString::fromUtf8(reading.readAllStandardOutput()).split(QLatin1Char('\n'));
+    for (const QJsonValue& problem : problems) {
+        const QString text = QString::fromStdString(plainText(problem.toString().toStdString()));
+        EXPECT_TRUE(read.contains(text)) << text.toStdString() << " is not in "
+                                         << read.join(QLatin1Char('|')).toStdString();
+    }
+    EXPECT_TRUE(read.contains(QStringLiteral("Seed 7")));
+    QFile pdf(file);
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    const QByteArray bytes = pdf.readAll();
+    EXPECT_TRUE(bytes.contains("/Author (Ordwise)") && bytes.contains("/Lang (en)"));
 }
 
 TEST_F(PrintTestCommand, says_in_one_sentence_what_cannot_be_printed) {

@@ -102,7 +102,7 @@ TEST_F(PrintWindows, a_test_is_outlined_created_turned_over_and_printed) {
             ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &preview; }));
             pages = ws.PreviewPageCount + 1;
             EXPECT_GE(pages, 3) << "the problems and their answers in all steps";
-            EXPECT_EQ(frmPrintPreview.Sheets.at(0).Foot, "Seed 42");
+            EXPECT_EQ(frmPrintPreview.Sheets.at(0).Seed, "42");
             EXPECT_FALSE(in<QAbstractButton>(preview, "Command4").isEnabled());
             QTest::keyClick(&preview, Qt::Key_PageDown);
             EXPECT_EQ(frmPrintPreview.FrontPage, 1);
@@ -200,18 +200,21 @@ TEST_F(PrintWindows, a_solution_goes_to_a_pdf_and_a_fault_leaves_everything_as_i
 
 TEST_F(PrintWindows, another_paper_lays_the_preview_out_anew) {
     PlainPlatform outside;
-    frmPrintPreview.Sheets = {{{"Halvern Ordwise", "Practice Test", ""}, std::vector<std::string>(12, "x+3=12"), ""}};
+    PrintSheet sheet;
+    sheet.Heading = {"Halvern Ordwise", "Practice Test", ""};
+    sheet.Lines = std::vector<std::string>(12, "x+3=12");
+    frmPrintPreview.Sheets = {sheet};
     outside.printer.size = PaperSize{816, 1056, 48};
     Stage stage;
     frmPrintPreview_Load();
     PrintPreviewDialog preview(frame.get(), stage);
     stage.showChanges = [&] { preview.showChanges(); };
-    const DisplayList before = frmPrintPreview.Picture1[0].Picture.drawn();
+    const DisplayList before = frmPrintPreview.Picture1.drawn();
     outside.printer.size = PaperSize{793.7, 1122.5, 48};
     preview.show();
     clickIn(preview, "Command3");
     EXPECT_EQ(outside.printer.setups, 1);
-    EXPECT_NE(frmPrintPreview.Picture1[0].Picture.drawn(), before);
+    EXPECT_NE(frmPrintPreview.Picture1.drawn(), before);
     EXPECT_EQ(frmPrintPreview.Paper, outside.printer.size);
     frmPrintPreview_Unload();
 }
