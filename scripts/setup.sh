@@ -41,6 +41,7 @@ installed() {
         xvfb) have Xvfb ;;
         xdotool) have xdotool ;;
         man-db) have man ;;
+        poppler-utils) have pdftotext ;;
         dpkg-dev) have dpkg-shlibdeps ;;
         fonts-texgyre) present /usr/share/texmf/fonts/opentype/public/tex-gyre/texgyreschola-regular.otf ;;
         *) return 1 ;;
@@ -50,7 +51,7 @@ installed() {
 # shellcheck disable=SC2034  # read by the scripts that source this one
 readonly build_packages=(g++ cmake ninja-build libgtest-dev libcli11-dev nlohmann-json3-dev libboost-dev)
 readonly desk_packages=(qt6-base-dev qt6-svg-dev fonts-texgyre)
-readonly test_packages=(desktop-file-utils appstream shared-mime-info xvfb xdotool man-db)
+readonly test_packages=(desktop-file-utils appstream shared-mime-info xvfb xdotool man-db poppler-utils)
 # shellcheck disable=SC2034
 readonly check_packages=(clang clang-format lintian dpkg-dev)
 

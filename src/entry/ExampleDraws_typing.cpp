@@ -16,6 +16,7 @@
 #include <cmath>
 #include <map>
 #include <numeric>
+#include <set>
 #include <vector>
 
 namespace ordwise {
@@ -231,8 +232,7 @@ bool hasOperator() {
 
 struct TypedTerm {
     int coefficient = 1;
-    std::string letters;  // with their exponents; "" in a number
-    int exponent = 0;     // of the letter
+    int exponent = 0;  // of the letter; 0 in a number
     int denominator = 1;
 };
 
@@ -260,7 +260,6 @@ std::vector<TypedTerm> typedTerms() {
         } else if (key == "^" || key == "/") {
             part = key == "^" ? 'e' : 'd';
         } else {
-            terms.back().letters = key;
             terms.back().exponent = 1;
         }
     }
@@ -268,23 +267,17 @@ std::vector<TypedTerm> typedTerms() {
     return terms;
 }
 
-// Neither a product or group to be multiplied out, nor like terms, nor a fraction to be reduced, nor an
-// order to be made. e.g. 6x^3+6x-8
+// Neither a product or group to be multiplied out, nor like terms, nor a fraction to be reduced. An order
+// to be made is not enough. e.g. 6x^3+6x-8, 2a-3a^3+4
 bool isSimplest() {
     for (int i = 0; i < ws.InputLast; ++i) {
         if (ws.InputTokens[i] == "(" || ws.InputTokens[i] == "*") return false;
     }
+    std::set<int> exponents;
     const std::vector<TypedTerm> terms = typedTerms();
-    const bool hasFraction =
-        std::any_of(terms.begin(), terms.end(), [](const TypedTerm& t) { return t.denominator > 1; });
-    for (std::size_t i = 0; i < terms.size(); ++i) {
-        if (std::gcd(terms[i].coefficient, terms[i].denominator) > 1) return false;
-        for (std::size_t j = 0; j < i; ++j) {
-            if (terms[i].exponent == terms[j].exponent) return false;
-            if (!hasFraction && terms[i].exponent > terms[j].exponent) return false;
-        }
-    }
-    return true;
+    return std::all_of(terms.begin(), terms.end(), [&](const TypedTerm& term) {
+        return exponents.insert(term.exponent).second && std::gcd(term.coefficient, term.denominator) == 1;
+    });
 }
 
 bool asksToSimplify() {
