@@ -96,12 +96,16 @@ public:
         : painter_(painter), pixels_(painter.paintEngine()->type() == QPaintEngine::Raster) {}
 
     LetterUse letters = LetterUse::Seen;
+    // Free room beside the run, which belongs to a sign at its end: "3 + 4" is copied as "3+4".
+    double airBefore = 0;
+    double airBehind = 0;
 
     void operator()(const Glyphs& run) {
         const QColor colour = colourOf(run.colour);
         const double em = emOf(run.face, run.size);
         const double base = baselineOf(run);
         const QRawFont font = rawFont(run.face, em);
+        const double runEnd = run.x + textWidth(run.face, run.text, run.size);
         GlyphsInARow row;
         painter_.setPen(colour);
         for (const PlacedGlyph& glyph : placedGlyphs(run)) {
@@ -109,8 +113,10 @@ public:
                 painter_.fillPath(pathOf(*glyph.shape, em, glyph.stretch).translated(glyph.x, base), colour);
                 if (letters != LetterUse::Readable) continue;
                 drawRow(row, font);  // whoever copies gets it in this order
-                const double width = glyph.stretch * textWidth(run.face, glyph.character, run.size);
-                paintUnseen(painter_, qstringOf(plainText(glyph.character)), glyph.x, base, width, em);
+                const double end = glyph.x + glyph.stretch * textWidth(run.face, glyph.character, run.size);
+                const double from = glyph.x - run.x < 1 ? glyph.x - airBefore : glyph.x;
+                const double until = end > runEnd - 1 ? end + airBehind : end;
+                paintUnseen(painter_, qstringOf(plainText(glyph.character)), from, base, until - from, em);
                 continue;
             }
             for (const quint32 index : font.glyphIndexesForString(qstringOf(glyph.character))) {
@@ -206,6 +212,15 @@ struct Extent {
     QRectF operator()(const Picture& picture) const { return {picture.x, picture.y, picture.width, picture.height}; }
 };
 
+// The room between two runs that stand on one line, 0 between others.
+double airBetween(const DrawOperation& left, const DrawOperation& right) {
+    const auto* first = std::get_if<Glyphs>(&left);
+    const auto* second = std::get_if<Glyphs>(&right);
+    if (first == nullptr || second == nullptr || first->y != second->y) return 0;
+    const double air = second->x - first->x - textWidth(first->face, first->text, first->size);
+    return air > 0 && air < emOf(first->face, first->size) / 2 ? air : 0;
+}
+
 }  // namespace
 
 QFont fontOf(Face face) {
@@ -241,6 +256,8 @@ void replayReadable(const DisplayList& list, const std::vector<PageText>& texts,
             paintUnseen(painter, qstringOf(text->text), text->x, baselineOf(place), text->width,
                         emOf(Face::Halvern, textPoints));
         }
+        paint.airBefore = i > 0 ? airBetween(list[i - 1], list[i]) : 0;
+        paint.airBehind = i + 1 < list.size() ? airBetween(list[i], list[i + 1]) : 0;
         paint.letters = told ? LetterUse::Shapes : LetterUse::Readable;
         paint.paint(list[i]);
     }
