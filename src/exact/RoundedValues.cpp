@@ -6,7 +6,8 @@
 namespace ordwise::exact {
 namespace {
 
-constexpr std::size_t mostValues = 12;
+constexpr std::size_t mostValues = 24;
+constexpr std::size_t mostProducts = 16;
 
 // A number that a single prints with all its digits needs no rounding.
 bool fitsSingle(const Rational& r) {
@@ -119,17 +120,102 @@ private:
     }
 
     std::vector<Quotient> folded(const Tree& tree) {
-        std::vector<Quotient> all = of(tree.children.front());
-        for (std::size_t i = 1; i < tree.children.size(); ++i) {
-            const std::vector<Quotient> next = of(tree.children[i]);
+        std::vector<std::vector<Quotient>> children;
+        for (const Tree& child : tree.children) children.push_back(of(child));
+        if (tree.kind == Kind::Sum && !always_) return sums(children);
+        std::vector<Quotient> all = children.front();
+        for (std::size_t i = 1; i < children.size(); ++i) {
             std::vector<Quotient> both;
+            std::vector<Quotient> exactOnes;
             for (const Quotient& a : all) {
-                for (const Quotient& b : next)
-                    add(both, tree.kind == Kind::Sum ? sum(a, b, effort_) : product(a, b, effort_));
+                for (const Quotient& b : children[i]) {
+                    if (exactOnes.size() >= mostProducts) break;
+                    exactOnes.push_back(tree.kind == Kind::Sum ? sum(a, b, effort_) : product(a, b, effort_));
+                }
             }
+            if (!always_) both = exactOnes;
+            for (const Quotient& one : exactOnes) add(both, one);
             all = std::move(both);
         }
+        if (tree.kind == Kind::Product) addOverOneBar(tree, all);
         return all;
+    }
+
+    // A sum is rounded at its end; before, some terms are and some are not. A student, and the solver, rounds
+    // them one after the other, so these come first.
+    std::vector<Quotient> sums(const std::vector<std::vector<Quotient>>& children) {
+        constexpr std::size_t mostOfOne = 8;
+        std::vector<Quotient> all;
+        const std::size_t count = children.size();
+        const auto rounded = [&](std::size_t i) -> const Quotient& {
+            return children[i][children[i].size() > 1 ? 1 : 0];
+        };
+        // What stands before the term that is looked at, and what stands behind it, all exact or all rounded.
+        std::vector<Quotient> before[2] = {{{0, 1}}, {{0, 1}}};
+        std::vector<Quotient> behind[2] = {{{0, 1}}, {{0, 1}}};
+        for (std::size_t i = 0; i < count; ++i) {
+            before[0].push_back(sum(before[0].back(), children[i].front(), effort_));
+            before[1].push_back(sum(before[1].back(), rounded(i), effort_));
+            behind[0].push_back(sum(children[count - 1 - i].front(), behind[0].back(), effort_));
+            behind[1].push_back(sum(rounded(count - 1 - i), behind[1].back(), effort_));
+        }
+        keep(all, before[0].back());
+        keep(all, before[1].back());
+        for (std::size_t k = 0; k < count; ++k) {
+            for (std::size_t v = 0; v < std::min(children[k].size(), mostOfOne); ++v) {
+                for (const int left : {0, 1}) {
+                    for (const int right : {0, 1}) {
+                        const Quotient rest = sum(before[left][k], behind[right][count - 1 - k], effort_);
+                        keep(all, sum(rest, children[k][v], effort_));
+                    }
+                }
+            }
+        }
+        addPairs(children, before[0].back(), all);
+        const std::size_t raw = all.size();
+        for (std::size_t i = 0; i < raw; ++i) {
+            for (const Quotient& way : waysToRound(Quotient(all[i]), rounding_)) keep(all, way);
+        }
+        return all;
+    }
+
+    // Two terms are put together and rounded, and the others wait. e.g. 10.12-14.478+#1/6# -> -4.36+#1/6#
+    void addPairs(const std::vector<std::vector<Quotient>>& children, const Quotient& total,
+                  std::vector<Quotient>& all) {
+        for (std::size_t i = 0; i < children.size(); ++i) {
+            for (std::size_t j = i + 1; j < children.size(); ++j) {
+                const Quotient pair = sum(children[i].front(), children[j].front(), effort_);
+                const Quotient rest = sum(total, negated(pair), effort_);
+                for (const Quotient& way : waysToRound(pair, rounding_)) keep(all, sum(rest, way, effort_));
+            }
+        }
+    }
+
+    static void keep(std::vector<Quotient>& all, const Quotient& value) {
+        constexpr std::size_t most = 100;
+        const bool known = std::any_of(all.begin(), all.end(), [&](const Quotient& other) {
+            return other.above == value.above && other.below == value.below;
+        });
+        if (!known && all.size() < most) all.push_back(value);
+    }
+
+    // #430896/9#*5.92 is written as #2550904/9#: the numerators are multiplied, and print as a single does.
+    void addOverOneBar(const Tree& tree, std::vector<Quotient>& all) {
+        Quotient above{1, 1};
+        Quotient below{1, 1};
+        bool bar = false;
+        for (const Tree& child : tree.children) {
+            const Tree& factor = ungrouped(child);
+            const bool fraction = factor.kind == Kind::Fraction;
+            Evaluator evaluator(letters_, effort_);
+            above = product(above, evaluator.valueOf(fraction ? factor.children[0] : factor), effort_);
+            if (fraction) below = product(below, evaluator.valueOf(factor.children[1]), effort_);
+            bar = bar || fraction;
+        }
+        if (!bar || below.above.isZero()) return;
+        for (const Quotient& way : waysToRound(above, {false, rounding_.places})) {
+            if (!always_) all.push_back(product(way, inverse(below), effort_));
+        }
     }
 
     // One or two children, each with its values.
