@@ -67,7 +67,9 @@ void goTo(std::vector<TypedMoment>& from, std::vector<TypedMoment>& onto) {
 
 void rememberMoment() {
     constexpr std::size_t mostMoments = 1000;
-    if (ws.UndoMoments.size() == mostMoments) ws.UndoMoments.erase(ws.UndoMoments.begin());
+    constexpr long forgotten = 250;  // at once, so that hardly any key has to move the others
+    if (ws.UndoMoments.size() == mostMoments)
+        ws.UndoMoments.erase(ws.UndoMoments.begin(), ws.UndoMoments.begin() + forgotten);
     ws.UndoMoments.push_back(momentNow());
 }
 
