@@ -2,8 +2,8 @@
 
 #include "CanonicalRewrite.hpp"
 #include "Catalogue.hpp"
-#include "Fault.hpp"
 #include "DroppedKeys.hpp"
+#include "Fault.hpp"
 #include "InputMaskCheck.hpp"
 #include "SolveDriver.hpp"
 #include "SolveReadiness.hpp"
