@@ -3,6 +3,7 @@
 #include "Fault.hpp"
 #include "GraphPlot.hpp"
 #include "GraphWindow.hpp"
+#include "HalvernShapes.hpp"
 #include "NumberText.hpp"
 #include "PageBlocks.hpp"
 #include "PlainForm.hpp"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string_view>
 
 namespace ordwise {
 namespace {
@@ -161,11 +163,20 @@ void placeGraph(double y, const PaperSize& paper, DrawingSurface& page) {
     page.place(picture.drawn(), (width - picture.Width) / 2, y * perUnit);
 }
 
+// A sign of ours between blanks, which readers of PDF do not see beside it. e.g. "when x = 4"
+bool hasSpacedSign(std::string_view text) {
+    for (std::size_t i = 1; i + 1 < text.size(); ++i) {
+        const bool blanks = text[i - 1] == ' ' || text[i + 1] == ' ';
+        if (blanks && shapeOf(Face::Halvern, text[i]) != nullptr) return true;
+    }
+    return false;
+}
+
 // The letters of a line that goes straight on are what it says.
 bool readsAsDrawn(const PlannedLine& line) {
     if (line.What != Kind::Math && line.What != Kind::Note) return true;
     const bool broken = line.What == Kind::Math && (line.Continued || !line.Whole.empty());
-    return line.Text.find_first_of("#^~") == std::string::npos && !broken;
+    return line.Text.find_first_of("#^~") == std::string::npos && !broken && !hasSpacedSign(line.Text);
 }
 
 // What is copied out of it. The first row of a broken line says all of it; an explanation goes on as

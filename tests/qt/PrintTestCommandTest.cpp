@@ -53,12 +53,12 @@ TEST_F(PrintTestCommand, gives_every_test_every_version_and_every_key_a_page_of_
 TEST_F(PrintTestCommand, gives_text_that_can_be_copied) {
     const QString reader = QStandardPaths::findExecutable(QStringLiteral("pdftotext"));
     if (reader.isEmpty()) GTEST_SKIP() << "there is no pdftotext";
-    const char* const lines[] = {"3y+5-8+7y=2-5y", "#3/4#+x^2^", "~9~*2-`", "6#1/3#{2",
-                                 "#4x/[2]#=8, when x = 4 and y = 5"};
+    const char* const lines[] = {"3y+5-8+7y=2-5y", "#3/4#+x^2^",          "~9~*2-`",
+                                 "6#1/3#{2",       "64 miles = ? inches", "#4x/[2]#=8, when x = 4 and y = 5"};
     QJsonArray problems;
     int number = 0;
     for (const char* line : lines) problems.append(QStringLiteral("%1) %2").arg(++number).arg(QLatin1String(line)));
-    const QString wide = QStringLiteral("6) ") + QStringLiteral("#12/345#+678-").repeated(20) + QStringLiteral("9");
+    const QString wide = QStringLiteral("7) ") + QStringLiteral("#12/345#+678-").repeated(20) + QStringLiteral("9");
     problems.append(wide);
     const QJsonObject test{{QStringLiteral("heading"), QJsonArray{QStringLiteral("Class 7b")}},
                            {QStringLiteral("lines"), problems},
