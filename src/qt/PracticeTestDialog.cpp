@@ -75,7 +75,6 @@ PracticeTestDialog::PracticeTestDialog(QWidget* parent, Stage& stage)
     lower->addWidget(new HeadingEdits(this, {&frmPracticeTest.Text1, &frmPracticeTest.Text2, &frmPracticeTest.Text3}),
                      1);
     lower->addWidget(variants());
-    lower->addWidget(paper());
     right->addLayout(lower);
     auto* columns = new QHBoxLayout;
     columns->addWidget(topics(), 2);
@@ -168,22 +167,8 @@ void PracticeTestDialog::addSection(int number, QGridLayout& grid) {
     grid.addWidget(section.clear, row, 4);
 }
 
-QWidget* PracticeTestDialog::paper() {
-    auto* group = new QGroupBox(QStringLiteral("On Paper"), this);
-    auto* form = new QFormLayout(group);
-    form->addRow(QStringLiteral("&Work space"), comboOf(this, frmPracticeTest.Space, QStringLiteral("Space")));
-    form->addRow(QStringLiteral("C&olumns"), comboOf(this, frmPracticeTest.Columns, QStringLiteral("Columns")));
-    auto* name = new QCheckBox(QStringLiteral("&Name line"), group);
-    name->setObjectName(QStringLiteral("NameLine"));
-    name->setChecked(frmPracticeTest.NameLine.Checked);
-    name->setToolTip(QStringLiteral("Room for name, date and class above the heading of a test"));
-    connect(name, &QCheckBox::toggled, this, [](bool checked) { frmPracticeTest.NameLine.Checked = checked; });
-    form->addRow(name);
-    return group;
-}
-
 QWidget* PracticeTestDialog::variants() {
-    auto* group = new QGroupBox(QStringLiteral("Answers and Versions"), this);
+    auto* group = new QGroupBox(QStringLiteral("Answers, Versions and Paper"), this);
     auto* form = new QFormLayout(group);
     form->addRow(QStringLiteral("Answer &key"), comboOf(this, frmPracticeTest.AnswerKey, QStringLiteral("AnswerKey")));
     form->addRow(QStringLiteral("&Versions"), comboOf(this, frmPracticeTest.Versions, QStringLiteral("Versions")));
@@ -195,6 +180,14 @@ QWidget* PracticeTestDialog::variants() {
     connect(seed, &QLineEdit::textChanged, this,
             [](const QString& text) { frmPracticeTest.Seed.Text = text.toStdString(); });
     form->addRow(QStringLiteral("S&eed"), seed);
+    form->addRow(QStringLiteral("&Work space"), comboOf(this, frmPracticeTest.Space, QStringLiteral("Space")));
+    form->addRow(QStringLiteral("C&olumns"), comboOf(this, frmPracticeTest.Columns, QStringLiteral("Columns")));
+    auto* name = new QCheckBox(QStringLiteral("&Name line"), group);
+    name->setObjectName(QStringLiteral("NameLine"));
+    name->setChecked(frmPracticeTest.NameLine.Checked);
+    name->setToolTip(QStringLiteral("Room for name, date and class above the heading of a test"));
+    connect(name, &QCheckBox::toggled, this, [](bool checked) { frmPracticeTest.NameLine.Checked = checked; });
+    form->addRow(name);
     return group;
 }
 

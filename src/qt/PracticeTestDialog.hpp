@@ -44,7 +44,6 @@ private:
     [[nodiscard]] QWidget* topics();
     [[nodiscard]] QWidget* outline();
     [[nodiscard]] QWidget* variants();
-    [[nodiscard]] QWidget* paper();
     void addSection(int number, QGridLayout& grid);
     void fillList();
     void connectTopics();
