@@ -14,3 +14,17 @@ if(ORDWISE_SANITIZE)
   # With the sanitizers g++ 12 takes parts of std::regex for uninitialised (GCC bug 105562).
   target_compile_options(ordwise_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 endif()
+
+# The same sources make the same program wherever they lie.
+target_compile_options(ordwise_flags INTERFACE -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+
+# What is given to users is hardened: checked copies, guarded stacks, checked jumps, and tables that
+# nobody can write to once the program runs. (docs/performance.md tells what it costs.)
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fcf-protection ORDWISE_HAS_CF_PROTECTION)
+if(CMAKE_BUILD_TYPE STREQUAL Release AND NOT ORDWISE_SANITIZE)
+  target_compile_options(ordwise_flags INTERFACE
+    -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong
+    $<$<BOOL:${ORDWISE_HAS_CF_PROTECTION}>:-fcf-protection>)
+  target_link_options(ordwise_flags INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,--build-id=sha1)
+endif()

@@ -7,6 +7,14 @@ set(CPACK_PACKAGE_CONTACT "The Ordwise developers <ordwise@halvern.example>")
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_STRIP_FILES ON)
 
+# The files of a package are dated by its version, so that two builds make the same package.
+file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/PackageDate.cmake @ONLY CONTENT [=[
+if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
+  set(ENV{SOURCE_DATE_EPOCH} @version_epoch@)
+endif()
+]=])
+set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_BINARY_DIR}/PackageDate.cmake)
+
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)

@@ -8,6 +8,7 @@
 
 #include <QClipboard>
 #include <QDialogButtonBox>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -23,8 +24,15 @@ constexpr const char* about =
     "A tutor and solver for school mathematics: one step a line, and a reason for every step.\n\n"
     "Ordwise is free software under the MIT licence. You may use, share and change it; it comes without any "
     "warranty.\n\n"
-    "Made with Qt (LGPL 3). The pictures and the signs of mathematics are drawn for Ordwise, the letters come from "
-    "the fonts of your system.";
+    "Made with Qt (LGPL 3), CLI11 (BSD), nlohmann-json (MIT) and Boost (BSL); Licences shows the notices of what is "
+    "compiled in. The pictures and the signs of mathematics are drawn for Ordwise, the letters come from the fonts of "
+    "your system.";
+
+// The very text that is installed with the packages.
+QString notices() {
+    QFile file(QStringLiteral(":/copyright"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
 
 }  // namespace
 
@@ -43,7 +51,6 @@ AboutDialog::AboutDialog(QWidget* parent, Stage& stage)
     text->setMinimumWidth(400);
     column->addWidget(text);
     facts_->setObjectName(QStringLiteral("SystemInformation"));
-    facts_->setAccessibleName(QStringLiteral("System information"));
     facts_->setReadOnly(true);
     facts_->setLineWrapMode(QPlainTextEdit::NoWrap);
     facts_->setTabChangesFocus(true);
@@ -82,20 +89,30 @@ void AboutDialog::addButtons(QVBoxLayout& layout) {
     info->setObjectName(QStringLiteral("cmdSysInfo"));
     copy_ = buttons->addButton(QStringLiteral("&Copy"), QDialogButtonBox::ActionRole);
     copy_->setObjectName(QStringLiteral("Copy"));
-    copy_->setToolTip(QStringLiteral("Copy the system information"));
+    copy_->setToolTip(QStringLiteral("Copy the text above"));
+    auto* licences = buttons->addButton(QStringLiteral("&Licences"), QDialogButtonBox::ActionRole);
+    licences->setObjectName(QStringLiteral("Licences"));
     auto* ok = buttons->addButton(qstringOf(frmAbout.Command1.Text), QDialogButtonBox::AcceptRole);
     ok->setObjectName(QStringLiteral("Command1"));
     ok->setDefault(true);
     ok->setFocus();
-    connect(info, &QPushButton::clicked, this, [this] { stage_.perform(StartSysInfo); });
+    connect(info, &QPushButton::clicked, this, [this] {
+        noticesShown_ = false;
+        stage_.perform(StartSysInfo);
+    });
+    connect(licences, &QPushButton::clicked, this, [this] {
+        noticesShown_ = true;
+        showChanges();
+    });
     connect(copy_, &QPushButton::clicked, this,
-            [] { QGuiApplication::clipboard()->setText(qstringOf(frmAbout.SystemInformation)); });
+            [this] { QGuiApplication::clipboard()->setText(facts_->toPlainText()); });
     connect(ok, &QPushButton::clicked, this, [this] { stage_.perform(About_Command1_Click); });
     layout.addWidget(buttons);
 }
 
 void AboutDialog::showChanges() {
-    const QString facts = qstringOf(frmAbout.SystemInformation);
+    const QString facts = noticesShown_ ? notices() : qstringOf(frmAbout.SystemInformation);
+    facts_->setAccessibleName(noticesShown_ ? QStringLiteral("Licences") : QStringLiteral("System information"));
     if (facts_->toPlainText() != facts) facts_->setPlainText(facts);
     facts_->setVisible(!facts.isEmpty());
     copy_->setVisible(!facts.isEmpty());

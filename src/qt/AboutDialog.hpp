@@ -1,5 +1,5 @@
-// frmAbout: the program's name and version, its licence, and on request what there is to tell of this
-// machine.
+// frmAbout: the program's name and version, its licence, and on request the notices of what is compiled
+// in, or what there is to tell of this machine.
 #pragma once
 
 #include "DeskWindows.hpp"
@@ -26,6 +26,7 @@ private:
 
     Stage& stage_;
     QPlainTextEdit* facts_;
+    bool noticesShown_ = false;  // in the place of the system's information
     QPushButton* copy_ = nullptr;
 };
 

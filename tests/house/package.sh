@@ -7,6 +7,7 @@
 #
 # With ORDWISE_SHOTS=FOLDER a picture of the started desk is kept there.
 set -u
+here=$(CDPATH='' cd -- "$(dirname -- "$0")" && pwd) || exit 1
 build=$(CDPATH='' cd -- "${2:?}" && pwd) || exit 1
 failed=0
 work=$(mktemp -d) || exit 1
@@ -59,6 +60,19 @@ manuals() {
     have man "the manual pages as man reads them" || return
     for page in "$work"/usr/share/man/man1/*; do
         [ -z "$(LC_ALL=C.UTF-8 man --warnings -l "$page" 2>&1 >/dev/null)" ] || fault "man complains about $page."
+    done
+}
+
+# contents PROGRAM: the list of what it is made of, which the build makes, is whole, and what is compiled in
+# is named where the licences stand, for whoever has the package and for whoever looks at About.
+contents() {
+    local doc=$work/usr/share/doc/$1 name
+    for name in SPDX-2.3 "$1" libc.so.6; do
+        grep -q "\" : \"$name\"" "$doc/$1.spdx.json" || fault "The list of what $1 is made of does not hold $name."
+    done
+    for name in $(grep -A7 '"Compiled in."' "$doc/$1.spdx.json" | sed -n 's/^ *"name" : "\(.*\)",$/\1/p'); do
+        grep -qx "Files: $name" "$doc/copyright" || fault "The copyright file of $1 does not name $name, which is compiled in."
+        grep -q "${name%%.*} (" "$here/../../src/qt/AboutDialog.cpp" || fault "About does not name $name, which is compiled in."
     done
 }
 
@@ -118,7 +132,9 @@ installed() {
     mv "$build/install_manifest.txt" "$work/kept" 2>/dev/null
     DESTDIR=$work pass "It cannot be installed:" cmake --install "$build" --prefix /usr
     manuals
+    contents ordwise-cli
     if [ -e "$work/usr/bin/ordwise" ]; then
+        contents ordwise
         desktop_files
         (double_click; exit $failed) || failed=1
     else
@@ -129,10 +145,28 @@ installed() {
     mv "$work/kept" "$build/install_manifest.txt" 2>/dev/null
 }
 
+# What is given to users runs at a place of its own, cannot write to its tables, and guards its stack.
+hardened() {
+    local package program lacks
+    for package in "$work"/*.deb; do
+        dpkg-deb -x "$package" "$work/unpacked"
+    done
+    for program in "$work"/unpacked/usr/bin/*; do
+        lacks=
+        readelf -h "$program" | grep -q 'Type: *DYN' || lacks="$lacks, a place of its own"
+        readelf -lW "$program" | grep -q GNU_RELRO || lacks="$lacks, tables that are closed"
+        readelf -dW "$program" | grep -q 'FLAGS.*NOW' || lacks="$lacks, binding at the start"
+        readelf -sW --dyn-syms "$program" | grep -q __stack_chk_fail || lacks="$lacks, a guarded stack"
+        readelf -sW --dyn-syms "$program" | grep -qE '__[a-z]+_chk@' || lacks="$lacks, checked copies"
+        [ -z "$lacks" ] || fault "The packaged ${program##*/} is not hardened; it lacks: ${lacks#, }."
+    done
+}
+
 debian() {
     have dpkg-shlibdeps "the Debian packages" || return
     (cd "$build" && pass "The Debian packages cannot be made:" cpack -G DEB -B "$work"; exit $failed) || failed=1
     ls -l "$work"/*.deb
+    hardened
     have lintian "what lintian says about the packages" || return
     lintian --fail-on error,warning "$work"/*.deb 2>&1 | tee "$work/said"
     [ "${PIPESTATUS[0]}" = 0 ] || fault "lintian finds faults in the packages."
