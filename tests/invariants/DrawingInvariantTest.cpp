@@ -5,7 +5,7 @@
 #include "FreshProgram.hpp"
 #include "HalvernShapes.hpp"
 #include "PlainPlatform.hpp"
-#include "PrintingPages.hpp"
+#include "PrintedLines.hpp"
 #include "Sanitized.hpp"
 #include "Solving.hpp"
 #include "Workspace.hpp"
@@ -102,7 +102,7 @@ protected:
         const std::vector<Ink> ink = inkOf(frmExplain.drawn());
         EXPECT_EQ(outside(ink), "") << note;
         EXPECT_EQ(overlap(ink), "") << note;
-        expectClearOnPaper(note, Face::Note, 10);
+        expectClearOnPaper(note, PlannedLine::Kind::Note);
     }
 
     static void expectClear(const std::string& line) {
@@ -111,16 +111,16 @@ protected:
         sheet.cls();
         PrintMathLine(line, false);
         EXPECT_EQ(overlap(inkOf(sheet.drawn())), "") << line;
-        expectClearOnPaper(line, Face::Halvern, 12);
+        expectClearOnPaper(line, PlannedLine::Kind::Math);
     }
 
-    static void expectClearOnPaper(const std::string& line, Face face, double points) {
-        PageSurface page(PaperSize{});
-        page.CurrentY = 60;
-        page.FontFace = face;
-        page.FontSize = points;
-        PrintLine(line, page, face == Face::Note);
-        for (const DisplayList& drawn : page.finished()) EXPECT_EQ(overlap(inkOf(drawn)), "") << "printed: " << line;
+    static void expectClearOnPaper(const std::string& markup, PlannedLine::Kind kind) {
+        const PaperSize paper;
+        for (const PlannedLine& row : rowsOf({kind, markup, 12, 60}, paper)) {
+            DrawingSurface page = pageSurface(paper);
+            drawLine(row, page);
+            EXPECT_EQ(overlap(inkOf(page.drawn())), "") << "printed: " << row.Text;
+        }
     }
 
     PlainPlatform world;
