@@ -124,10 +124,20 @@ int runExample(ExampleOptions& options, std::ostream& out, std::ostream& err) {
 
 struct TestOptions {
     TestRequest request;
+    std::string format = "text";
     bool json = false;
 };
 
 int runTest(const TestOptions& options, std::ostream& out) {
+    static const std::map<std::string, TestFormat> formats{
+        {"html", TestFormat::Html}, {"latex", TestFormat::Latex}, {"moodle", TestFormat::Moodle}};
+    if (const auto format = formats.find(options.format); format != formats.end()) {
+        if (options.json) throw BadRequest("--json and --format " + options.format + " cannot be had together.");
+        out << testDocument(options.request, format->second);
+        return exitDone;
+    }
+    if (options.format != "text")
+        throw BadRequest("--format takes text, html, latex or moodle, not \"" + options.format + "\".");
     const Json answer = answerTest(options.request);
     if (options.json) {
         out << dumped(answer) << '\n';
@@ -240,6 +250,7 @@ void addTestOptions(CLI::App& command, TestOptions& options) {
     command.add_option_function<std::string>("--columns", columns, "Set short problems side by side on paper: 1 or 2")
         ->type_name("COUNT");
     command.add_flag("--no-name-line", options.request.noNameLine, "No line for name, date and class on paper");
+    command.add_option("--format", options.format, "text, html, latex, or moodle for a question bank");
     command.add_flag("--json", options.json, "One JSON object");
 }
 

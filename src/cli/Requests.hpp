@@ -61,6 +61,9 @@ struct TestRequest {
     int columns = 1;          // or two, where the problems of a section are short
 };
 
+// The forms of a test beside text and JSON.
+enum class TestFormat { Html, Latex, Moodle };
+
 struct KeysRequest {
     std::string topic;
     std::string text;  // every character a key; a backspace is U+0008
@@ -92,6 +95,8 @@ struct ExampleRequest {
 // Its heading and the lines of its first version. With a key or several versions also "versions":
 // version, seed, lines and key of each.
 [[nodiscard]] nlohmann::ordered_json answerTest(const TestRequest& request);
+// The test as a document for another program.
+[[nodiscard]] std::string testDocument(const TestRequest& request, TestFormat format);
 [[nodiscard]] nlohmann::ordered_json answerKeys(const KeysRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerCheck(const CheckRequest& request);
 [[nodiscard]] nlohmann::ordered_json answerTopics();

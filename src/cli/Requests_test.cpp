@@ -129,4 +129,14 @@ Json answerTest(const TestRequest& request) {
     return answer;
 }
 
+std::string testDocument(const TestRequest& request, TestFormat format) {
+    PlainPlatform outside;
+    startFreshProgram();
+    TestPlan plan = planOf(request);
+    plan.solved = true;
+    const Document document = documentOf(plan, testsOf(plan));
+    if (format == TestFormat::Html) return htmlOf(document);
+    return format == TestFormat::Latex ? latexDocumentOf(document) : moodleOf(document);
+}
+
 }  // namespace ordwise

@@ -122,7 +122,7 @@ private:
             case PieceKind::Number: return number(piece.text);
             case PieceKind::Letter: return piece.text;
             case PieceKind::Name: return "\\mathrm{" + piece.text + "}";
-            case PieceKind::Words: return "\\text{" + latexText(piece.text) + "}";
+            case PieceKind::Words: return "\\text{" + latexText(wordsBesideSigns(row_, i)) + "}";
             case PieceKind::Sign:
                 if (partnerOf(i) != i) return (piece.text == "(" ? "\\left" : "\\right") + piece.text;
                 return sign(piece.text);

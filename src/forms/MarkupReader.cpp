@@ -324,6 +324,17 @@ Row readMarkup(std::string_view markup, Letters letters) {
     return row;
 }
 
+std::string wordsBesideSigns(const Row& row, std::size_t i) {
+    const auto isOperator = [&](std::size_t at) {
+        return at < row.size() && row[at].kind == PieceKind::Sign &&
+               std::string_view("+-*/=<>{\\$").find(row[at].text[0]) != std::string_view::npos;
+    };
+    std::string text = row[i].text;
+    if (isOperator(i + 1) && text.back() == ' ') text.pop_back();
+    if (i > 0 && isOperator(i - 1) && text.front() == ' ') text.erase(0, 1);
+    return text;
+}
+
 std::size_t closingOf(const Row& row, std::size_t open) {
     const bool bars = row[open].kind == PieceKind::OpenBar;
     int depth = 0;

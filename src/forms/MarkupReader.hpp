@@ -70,6 +70,9 @@ struct NotePart {
 [[nodiscard]] inline bool isSign(const Piece& piece, char sign) {
     return piece.kind == PieceKind::Sign && piece.text.size() == 1 && piece.text[0] == sign;
 }
+// Words as a form that spaces its operators by itself writes them: without the blank beside one.
+// e.g. "length " in front of "=" -> "length"
+[[nodiscard]] std::string wordsBesideSigns(const Row& row, std::size_t i);
 // An opening bracket at `open` of the row: where it closes, the row's size where it does not.
 [[nodiscard]] std::size_t closingOf(const Row& row, std::size_t open);
 // Some fraction or root stands between the two places.

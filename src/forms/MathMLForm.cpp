@@ -49,14 +49,15 @@ std::string single(const Row& row, bool inColour) {
     return row.size() == 1 ? elements(row, inColour) : "<mrow>" + elements(row, inColour) + "</mrow>";
 }
 
-std::string elementOf(const Piece& piece, bool inColour) {
+std::string elementOf(const Row& row, std::size_t i, bool inColour) {
+    const Piece& piece = row[i];
     const bool red = piece.highlighted && !inColour;
     const bool inner = piece.highlighted || inColour;
     switch (piece.kind) {
         case PieceKind::Number: return element("mn", piece.text, red);
         case PieceKind::Letter:
         case PieceKind::Name: return element("mi", piece.text, red);
-        case PieceKind::Words: return element("mtext", keptBlanks(piece.text), red);
+        case PieceKind::Words: return element("mtext", keptBlanks(wordsBesideSigns(row, i)), red);
         case PieceKind::Sign: return operatorOf(piece, red);
         case PieceKind::OpenBar: return element("mo", "|", red, " form=\"prefix\" stretchy=\"true\"");
         case PieceKind::CloseBar: return element("mo", "|", red, " form=\"postfix\" stretchy=\"true\"");
@@ -83,7 +84,7 @@ bool isSpared(const Row& row, std::size_t i) {
 std::string elements(const Row& row, bool inColour) {
     std::string out;
     for (std::size_t i = 0; i < row.size(); ++i) {
-        if (!isSpared(row, i)) out += elementOf(row[i], inColour);
+        if (!isSpared(row, i)) out += elementOf(row, i, inColour);
     }
     return out;
 }

@@ -7,6 +7,7 @@
 #include "PracticeTestTopics.hpp"
 #include "RandomDraws.hpp"
 #include "SilentOutside.hpp"
+#include "StepDisplay.hpp"
 #include "TextTools.hpp"
 #include "WorksheetLayout.hpp"
 
@@ -45,7 +46,7 @@ std::vector<std::string> testLines() {
 }
 
 // Writes the problem on a fresh worksheet and solves it all at once.
-std::vector<std::string> keyOf(const TestProblem& problem, int number, AnswerKey kind) {
+void solveOnDesk(const TestProblem& problem) {
     const SilentOutside outside(problem.example.values);
     Form_Unload();
     TreeViewSelect(problem.topic);
@@ -53,6 +54,10 @@ std::vector<std::string> keyOf(const TestProblem& problem, int number, AnswerKey
     frmMain.mnuShowStep.Checked = false;
     fillWorksheet(problem.example.boxes, problem.example.combos);
     ExampleChop(problem.example.keys, false);
+}
+
+std::vector<std::string> keyOf(const TestProblem& problem, int number, AnswerKey kind) {
+    solveOnDesk(problem);
     const std::string start = textOf(number) + ") ";
     const std::string values = problem.example.values.empty() ? "" : problem.example.suffix;
     if (kind == AnswerKey::Answers) return {start + answerOnDesk() + values};
@@ -71,14 +76,41 @@ std::vector<std::string> keyLines(const std::vector<TestProblem>& problems, Answ
     return lines;
 }
 
+// e.g. "12) 3x=9" -> "3x=9"
+std::string withoutNumber(const std::string& line) {
+    return line.substr(line.find(") ") + 2);
+}
+
+// The lines of the test, section by section: a blank line, the heading, and a line a problem.
+std::vector<DocumentSection> solvedSections(const std::vector<std::string>& lines,
+                                            const std::vector<TestProblem>& problems) {
+    std::vector<DocumentSection> sections;
+    std::size_t at = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i].empty()) {
+            sections.push_back({lines[++i], {}});
+            continue;
+        }
+        const TestProblem& problem = problems.at(at);
+        solveOnDesk(problem);
+        DocumentProblem solved{problem.topic, ws.ProblemType, static_cast<int>(++at), withoutNumber(lines[i]), {},
+                               answerOnDesk()};
+        for (int step = 1; step <= lastShownStep(); ++step)
+            solved.steps.push_back({ws.StepLines[step], ws.StepNotes[step]});
+        sections.back().problems.push_back(std::move(solved));
+    }
+    return sections;
+}
+
 MadeTest makeTest(const TestPlan& plan, std::uint64_t seed) {
     const SeededDraws draws(seed);
     ws.RecentExamples.clear();
     emptyTest();
     std::vector<TestProblem> problems;
     for (const TestSection& section : plan.sections) addSection(section, problems);
-    MadeTest test{seed, "", testLines(), {}};
+    MadeTest test{seed, "", testLines(), {}, {}};
     if (plan.key != AnswerKey::None) test.key = keyLines(problems, plan.key);
+    if (plan.solved) test.sections = solvedSections(test.lines, problems);
     return test;
 }
 
@@ -134,6 +166,16 @@ std::vector<PrintSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTes
         sheets.push_back(std::move(key));
     }
     return sheets;
+}
+
+Document documentOf(const TestPlan& plan, const std::vector<MadeTest>& tests) {
+    Document document;
+    document.heading.assign(plan.heading.begin(), plan.heading.end());
+    document.key = plan.key;
+    document.nameLine = plan.nameLine;
+    document.space = plan.space;
+    for (const MadeTest& test : tests) document.tests.push_back({test.version, test.seed, test.sections});
+    return document;
 }
 
 }  // namespace ordwise

@@ -5,6 +5,7 @@
 // the tests of the seeds that follow one another. Whatever stands on the worksheet stays as it is.
 #pragma once
 
+#include "Documents.hpp"
 #include "Examples.hpp"
 #include "PrintWindows.hpp"
 
@@ -27,9 +28,6 @@ struct TestSection {
     bool complex = false;
 };
 
-// A key of the answers alone, or with the steps that lead to them.
-enum class AnswerKey { None, Answers, Steps };
-
 struct TestPlan {
     std::array<std::string, 3> heading;
     std::vector<TestSection> sections;
@@ -39,14 +37,16 @@ struct TestPlan {
     bool nameLine = true;  // above the heading of each test
     int space = 0;         // lines to work in below each problem
     int columns = 1;       // of problems, in sections of short ones
+    bool solved = false;   // each problem with its solution, for a document
 };
 
 // One version of a test.
 struct MadeTest {
     std::uint64_t seed = 0;
-    std::string version;             // "A", "B", "C"; "" for the only one
-    std::vector<std::string> lines;  // blank lines, headings and numbered problems
-    std::vector<std::string> key;    // the same with answers; empty if none is wanted
+    std::string version;                    // "A", "B", "C"; "" for the only one
+    std::vector<std::string> lines;         // blank lines, headings and numbered problems
+    std::vector<std::string> key;           // the same with answers; empty if none is wanted
+    std::vector<DocumentSection> sections;  // the same solved, if that is wanted
 };
 
 // Prepares a section: the topic's type, mask and limits, TestHeading and TestSuffix. Returns the type.
@@ -59,6 +59,9 @@ int TestTopicRow(std::string_view topic);
 
 // The pages to be previewed and printed: each version, and behind it its key.
 [[nodiscard]] std::vector<PrintSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTest>& tests);
+
+// The same as a document for another program. Expects tests that were made solved.
+[[nodiscard]] Document documentOf(const TestPlan& plan, const std::vector<MadeTest>& tests);
 
 // The answer to the problem that has just been solved on the worksheet, or all of its lines.
 // e.g. Solving Equations, x+3=12 -> "x=9"

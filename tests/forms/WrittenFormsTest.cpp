@@ -19,9 +19,9 @@ TEST(LatexForm, IsWhatAnAuthorWouldWrite) {
         {Letters::Variables, "[|x]|", R"(\left|\textcolor{red}{x}\right|)"},
         {Letters::Variables, "(x+#1/2#)^2^", R"(\left(x+\frac{1}{2}\right)^{2})"},
         {Letters::Variables, "3$8{2", R"(3\ne 8\div 2)"},
-        {Letters::Words, "Area = ` * radius^2^", R"(\text{Area }=\pi \cdot {\text{radius}}^{2})"},
+        {Letters::Words, "Area = ` * radius^2^", R"(\text{Area}=\pi \cdot {\text{radius}}^{2})"},
         {Letters::Words, "100% of 90^o^, 13 #2/7#", R"(100\%\text{ of }90^{\circ},\ 13\ \frac{2}{7})"},
-        {Letters::Words, "xy = a1", R"(\text{xy }=\mathrm{a1})"},
+        {Letters::Words, "xy = a1", R"(\text{xy}=\mathrm{a1})"},
     };
     for (const auto& each : cases) EXPECT_EQ(latexOf(readMarkup(each.markup, each.letters)), each.latex) << each.markup;
 }
@@ -38,7 +38,7 @@ TEST(LatexForm, FindsTheMathematicsInNotes) {
         {Letters::Words, "6#2/3# is the same as writing 6 + #2/3#.",
          R"(\(6\frac{2}{3}\) is the same as writing \(6+\frac{2}{3}\).)"},
         {Letters::Words, "A number * 10^power^, the (*) sign",
-         R"(A \(\text{number }\cdot 10^{\text{power}}\), the (\(\cdot \)) sign)"},
+         R"(A \(\text{number}\cdot 10^{\text{power}}\), the (\(\cdot \)) sign)"},
         {Letters::Words, "12 inches = 1 foot, a cube/box of 5%", R"(12 inches = 1 foot, a cube/box of 5\%)"},
     };
     for (const auto& each : cases) EXPECT_EQ(latexOf(readNote(each.note, each.letters)), each.latex) << each.note;
