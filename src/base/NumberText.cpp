@@ -183,6 +183,10 @@ std::string textOf(int value) {
     return std::to_string(value);
 }
 
+std::string textOf(std::uint64_t value) {
+    return std::to_string(value);
+}
+
 std::string textOf(std::int64_t value) {
     return std::to_string(value);
 }

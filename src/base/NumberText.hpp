@@ -18,6 +18,7 @@ namespace ordwise {
 [[nodiscard]] std::string textOf(float value);   // e.g. 1.0F / 3 -> "0.3333333"
 [[nodiscard]] std::string textOf(int value);     // e.g. -7 -> "-7"
 [[nodiscard]] std::string textOf(std::int64_t value);
+[[nodiscard]] std::string textOf(std::uint64_t value);
 
 // A number the way messages of the input check write it: a blank stands where a "-" would.
 // e.g. 4 -> " 4", -4 -> "-4"

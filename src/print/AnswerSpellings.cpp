@@ -126,8 +126,8 @@ std::optional<std::string> endingDecimal(std::string_view plain) {
     const std::size_t slash = plain.find('/');
     if (slash == std::string_view::npos || !isWhole(plain.substr(0, slash)) || !isWhole(plain.substr(slash + 1)))
         return std::nullopt;
-    const long above = std::stol(std::string(plain.substr(0, slash)));
-    const long below = std::stol(std::string(plain.substr(slash + 1)));
+    const auto above = static_cast<long>(valueOf(plain.substr(0, slash)));
+    const auto below = static_cast<long>(valueOf(plain.substr(slash + 1)));
     if (below == 0) return std::nullopt;
     long rest = below / std::gcd(above, below);
     for (const long prime : {2L, 5L}) {

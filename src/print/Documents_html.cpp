@@ -130,7 +130,7 @@ std::string testOf(const Document& document, const DocumentTest& test) {
     for (const DocumentSection& section : test.sections)
         content += headingsOf(section) + problemsOf(section, document.space);
     if (document.key != AnswerKey::None) content += keyOf(test, document.key);
-    content += element("p", "Seed " + std::to_string(test.seed), "class=\"seed\"");
+    content += element("p", "Seed " + textOf(test.seed), "class=\"seed\"");
     return element("div", content, "class=\"test\"");
 }
 

@@ -88,7 +88,7 @@ std::string latexDocumentOf(const Document& document) {
     std::string body;
     for (const DocumentTest& test : document.tests) {
         if (!body.empty()) body += "\\newpage\n";
-        const std::string foot = "\\vfill{\\footnotesize Seed " + std::to_string(test.seed) + "}\n";
+        const std::string foot = "\\vfill{\\footnotesize Seed " + textOf(test.seed) + "}\n";
         body += testOf(document, test) + foot;
         if (document.key != AnswerKey::None) body += "\\newpage\n" + keyOf(document, test) + foot;
     }

@@ -4,6 +4,7 @@
 #include "Documents.hpp"
 #include "LatexForm.hpp"
 #include "MathMLForm.hpp"
+#include "NumberText.hpp"
 #include "TextTools.hpp"
 
 #include <vector>
@@ -83,7 +84,7 @@ std::string questionOf(const DocumentSection& section, const DocumentProblem& pr
     const std::string question = asked + "<p>" + formula(problem.text, problem.type) + "</p>";
     const std::string grade = answer.kind == BankAnswer::Essay ? "0" : "0.3333333";
     return element("question",
-                   "\n" + element("name", text(problem.topic + " " + std::to_string(problem.number))) +
+                   "\n" + element("name", text(problem.topic + " " + textOf(problem.number))) +
                        html("questiontext", question) + html("generalfeedback", feedbackOf(problem)) +
                        "<defaultgrade>1</defaultgrade>\n" + element("penalty", grade) + "<hidden>0</hidden>\n" +
                        kindFields(answer),

@@ -153,7 +153,7 @@ std::vector<PrintSheet> sheetsOf(const TestPlan& plan, const std::vector<MadeTes
         PrintSheet sheet;
         sheet.Heading = plan.heading;
         sheet.Version = test.version;
-        sheet.Seed = textOf(static_cast<std::int64_t>(test.seed));
+        sheet.Seed = textOf(test.seed);
         PrintSheet key = sheet;
         sheet.Lines = test.lines;
         sheet.NameLine = plan.nameLine;
