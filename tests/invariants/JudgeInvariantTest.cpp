@@ -3,6 +3,7 @@
 #include "EngineProblems.hpp"
 #include "LineEquality.hpp"
 #include "Sanitized.hpp"
+#include "SpoiledLines.hpp"
 
 #include <gtest/gtest.h>
 
@@ -40,29 +41,6 @@ bool isRight(const std::optional<Comparison>& comparison) {
     return comparison && (comparison->relation == Relation::Same || comparison->relation == Relation::Rounded);
 }
 
-// A number as long as a single prints, which may have been longer.
-bool hasSevenDigits(const std::string& line) {
-    int run = 0;
-    for (const char c : line) {
-        if (c == '.') continue;
-        run = c >= '0' && c <= '9' ? run + 1 : 0;
-        if (run >= 7 || c == 'E') return true;
-    }
-    return false;
-}
-
-// One digit, sign or exponent of the line changed.
-std::string spoiled(std::string line, Draws& draws) {
-    std::vector<std::size_t> places;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if ((line[i] >= '0' && line[i] <= '9') || line[i] == '+' || line[i] == '-') places.push_back(i);
-    }
-    if (places.empty()) return line;
-    char& c = line[places[static_cast<std::size_t>(draws.between(0, static_cast<int>(places.size()) - 1))]];
-    c = c == '+' ? '-' : c == '-' ? '+' : static_cast<char>('1' + (c - '0') % 9);
-    return line;
-}
-
 // The second evaluation: both lines at whole numbers, with nothing in common but the reader and the
 // arithmetic of numbers. True where they differ somewhere, nothing where that cannot be told.
 std::optional<bool> differAtNumbers(const std::string& before, const std::string& line) {
@@ -84,15 +62,21 @@ std::optional<bool> differAtNumbers(const std::string& before, const std::string
     return false;
 }
 
+double timeOf(const std::string& before, const std::string& line, const exact::Rounding& rounding) {
+    const auto begin = std::chrono::steady_clock::now();
+    (void)compared(before, line, rounding);
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+}
+
 struct Slowest {
     double milliseconds = 0;
-    std::string lines;
+    std::string before;
+    std::string line;
 
-    void take(std::chrono::steady_clock::time_point begin, const std::string& before, const std::string& line) {
-        const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
-        if (time.count() <= milliseconds) return;
-        milliseconds = time.count();
-        lines = before + "   then   " + line;
+    // The least of a few: what else the machine does counts for nothing.
+    void take(double time, const std::string& one, const std::string& other, const exact::Rounding& how) {
+        for (int i = 0; i < 3 && time > milliseconds; ++i) time = std::min(time, timeOf(one, other, how));
+        if (time > milliseconds) *this = {time, one, other};
     }
 };
 
@@ -116,7 +100,8 @@ TEST(Judge, CallsTheSolversLinesRightAndSpoiledOnesWrong) {
             const exact::Rounding rounding{decimals, 2};
             const auto begin = std::chrono::steady_clock::now();
             const auto comparison = compared(before, line, rounding);
-            slowest.take(begin, before, line);
+            const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
+            slowest.take(time.count(), before, line, rounding);
             // The solver multiplies out what has more digits than it can write; that line is not equal.
             const bool cutOff = hasSevenDigits(line) && before.find('(') != std::string::npos;
             if (cutOff && !isRight(comparison)) {
@@ -140,10 +125,10 @@ TEST(Judge, CallsTheSolversLinesRightAndSpoiledOnesWrong) {
     }
     std::cout << lines << " lines of the solver; " << wrong << " spoiled ones wrong, " << undecided
               << " not to be read or decided; the slowest verdict took " << slowest.milliseconds
-              << " ms: " << slowest.lines << '\n';
+              << " ms: " << slowest.before << "   then   " << slowest.line << '\n';
     EXPECT_GT(wrong, problems);
     EXPECT_LE(cut, 5);
-    EXPECT_LT(slowest.milliseconds, allowed(40));
+    EXPECT_LT(slowest.milliseconds, allowed(20));
 }
 
 }  // namespace
