@@ -155,6 +155,7 @@ void FrameWindow::addMenuRow(QMenu& menu, const MenuRow& row) {
     }
     QAction* action = menu.addAction(qstringOf(row.control->Text));
     action->setShortcut(QKeySequence(qstringOf(keysOf(*row.control))));
+    action->setToolTip(qstringOf(row.control->Text).remove(QLatin1Char('&')));
     action->setCheckable(row.checkable);
     if (row.control == &frmMain.mnuExit) {
         connect(action, &QAction::triggered, this, &QWidget::close);
@@ -269,16 +270,17 @@ QAction* FrameWindow::commandOf(int button) const {
 void FrameWindow::showChanges() {
     setWindowTitle(titleOfDesk());
     for (const auto& [control, action] : menuActions_) {
-        QString tip = action->text();
-        tip.remove(QLatin1Char('&'));
         action->setEnabled(control->Enabled);
-        action->setToolTip(tip);
         if (action->isCheckable()) action->setChecked(control->Checked);
     }
     for (const auto& [index, action] : toolActions_) {
         const ToolbarButton& button = frmMain.Toolbar1[index];
         action->setEnabled(button.Enabled);
-        action->setToolTip(withShortcut(qstringOf(button.ToolTip), commandOf(index)));
+        const QString tip = qstringOf(button.ToolTip);
+        if (action->property("tip").toString() != tip) {  // to name the shortcut is dear at every key
+            action->setProperty("tip", tip);
+            action->setToolTip(withShortcut(tip, commandOf(index)));
+        }
         if (action->property("image").toString() == qstringOf(button.Image)) continue;
         action->setProperty("image", qstringOf(button.Image));
         action->setIcon(artIcon(button.Image));
@@ -348,8 +350,8 @@ bool FrameWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void FrameWindow::showFreshSheets() {
     sheetInView_ = 0;
-    status_->startAfresh();
     stage_.show();
+    status_->startAfresh();
     desk_->orderTabs();
     desk_->takeKeys();
 }

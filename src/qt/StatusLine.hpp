@@ -3,6 +3,8 @@
 // whole in its tool tip.
 #pragma once
 
+#include <QCache>
+#include <QStaticText>
 #include <QWidget>
 
 namespace ordwise {
@@ -21,17 +23,27 @@ public:
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    struct LaidOut {
+        QStaticText whole;
+        QStaticText onOneRow;  // with an ellipsis where it is cut
+        int rows = 1;
+    };
+
     [[nodiscard]] QFont sentenceFont() const;
     [[nodiscard]] QRect room() const;
-    void makeRoom();
+    [[nodiscard]] const LaidOut& laidOut();
+    void makeRoom(int atLeast);
+    void forgetLayout();
 
     QString sentence_;
     bool refusal_ = false;
     int rows_ = 1;
+    QCache<QString, LaidOut> laidOut_{8};  // of the sentences shown last, at this width
 };
 
 }  // namespace ordwise
