@@ -14,9 +14,11 @@
 #include "SheetPainter.hpp"
 #include "SheetView.hpp"
 #include "ShownLines.hpp"
+#include "SpokenRoles.hpp"
 #include "Stage.hpp"
 #include "StepDisplay.hpp"
 #include "WorksheetLayout.hpp"
+#include "Workspace.hpp"
 
 #include <QAccessible>
 #include <QKeyEvent>
@@ -115,6 +117,7 @@ DeskView::DeskView(QWidget* parent, Stage& stage)
       notes_(nullptr),
       explanation_(nullptr) {
     setObjectName(QStringLiteral("frmPaper"));
+    giveSpokenRoles();
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setPalette(QPalette(QColor(0xef, 0xef, 0xef)));  // paper stays light, also on a dark desktop
@@ -302,6 +305,8 @@ void DeskView::announce() {
     const bool changed = line != accessibleDescription();
     setAccessibleName(name);
     setAccessibleDescription(line);
+    for (int number = 0; number <= PaperWindow::lastSheet; ++number)
+        sheet(number).setAccessibleDescription(number == ws.CurrentSheet ? line : QString());
     if (renamed) tell(QAccessible::NameChanged);
     if (changed) tell(QAccessible::DescriptionChanged);
 }

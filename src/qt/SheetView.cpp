@@ -2,6 +2,7 @@
 
 #include "Art.hpp"
 #include "BoxEdit.hpp"
+#include "BoxNames.hpp"
 #include "DeskEvents.hpp"
 #include "DisplayListPainter.hpp"
 #include "GuidedInput.hpp"
@@ -28,24 +29,6 @@ QFont unitFont(double units, double scale) {
     font.setStyleHint(QFont::Serif);
     font.setPixelSize(std::max(6, qRound(units * scale)));
     return font;
-}
-
-// The caption at a box, "radius=" or "=radius", without its sign.
-QString captionOf(const Control& box) {
-    for (const Control* label :
-         {&frmPaper.Label1, &frmPaper.Label2, &frmPaper.Label3, &frmPaper.Label4, &frmPaper.Label5, &frmPaper.Label8}) {
-        const bool before = label->AlignRight && label->Left < box.Left && box.Left - label->Left <= 75;
-        const bool behind = !label->AlignRight && label->Text.size() > 2 && label->Left > box.Left;
-        if (!label->Visible || label->Top != box.Top || !(before || behind)) continue;
-        if (label->Text.find('=') == std::string::npos) continue;
-        return qstringOf(label->Text).remove(QLatin1Char('='));
-    }
-    return QString();
-}
-
-QString boxName(int number) {
-    const QString caption = captionOf(frmPaper.box(number));
-    return caption.isEmpty() ? QStringLiteral("Box %1").arg(number) : caption;
 }
 
 // Where the one list differs from the other, which it becomes.
@@ -111,7 +94,7 @@ void FigureView::showChanges(double scale) {
         BoxEdit& edit = box(number);
         edit.setGeometry(placeOf(control, scale));
         edit.setFont(unitFont(boxFontUnits, scale));
-        edit.setAccessibleName(boxName(number));
+        edit.setAccessibleName(qstringOf(boxName(number)));
         edit.showText(qstringOf(control.Text));
         edit.setVisible(control.Visible);
     }
@@ -140,6 +123,7 @@ SheetView::SheetView(QWidget* parent, Stage& stage, int number)
     if (number != 0) return;
     figure_ = new FigureView(this, stage);
     figure_->setObjectName(QStringLiteral("Picture3"));
+    figure_->setAccessibleName(QStringLiteral("Boxes of the problem"));
     rounding_ = new QComboBox(this);
     rounding_->setObjectName(QStringLiteral("Combo3"));
     rounding_->setAccessibleName(QStringLiteral("Rounding"));

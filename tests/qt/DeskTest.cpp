@@ -13,6 +13,7 @@
 #include "Workspace.hpp"
 #include "basFPrint.hpp"
 
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
 #include <QMessageBox>
@@ -378,11 +379,32 @@ TEST_F(Desk, every_topic_opens_with_boxes_that_have_names_and_room) {
             if (!box.isVisible()) continue;
             EXPECT_TRUE(figure.rect().contains(box.geometry())) << number;
             EXPECT_FALSE(names.contains(box.accessibleName())) << box.accessibleName().toStdString();
+            EXPECT_FALSE(box.accessibleName().startsWith(QStringLiteral("Box"))) << box.accessibleName().toStdString();
             names << box.accessibleName();
             for (const QRect& other : places) EXPECT_FALSE(other.intersects(box.geometry())) << number;
             places << box.geometry();
         }
     }
+}
+
+TEST_F(Desk, screen_readers_find_a_document_with_sheets_light_and_boxes) {
+    const auto spoken = [](QWidget& widget) {
+        const QAccessibleInterface* found = QAccessible::queryAccessibleInterface(&widget);
+        const auto text = [found](QAccessible::Text which) { return found->text(which).toStdString(); };
+        return std::to_string(found->role()) + "|" + text(QAccessible::Name) + "|" + text(QAccessible::Description);
+    };
+    const auto is = [](QAccessible::Role role) { return std::to_string(role); };
+    choose(QStringLiteral("solving eq"));
+    type(QStringLiteral("x+3=12"));
+    const DeskView& desk = frame->desk();
+    EXPECT_EQ(spoken(frame->desk()), is(QAccessible::Document) + "|Worksheet: Solving Equations|x plus 3 equals 12");
+    EXPECT_EQ(spoken(desk.sheet(0)), is(QAccessible::StaticText) + "|Sheet 1, Solving Equations|x plus 3 equals 12");
+    EXPECT_EQ(spoken(desk.light()), is(QAccessible::Button) + "|Input light: correct|Correct Input.");
+    press(Qt::Key_F5);
+    EXPECT_EQ(spoken(desk.sheet(0)),
+              is(QAccessible::StaticText) + "|Sheet 1, Solving Equations|x plus 3 minus 3 equals 12 minus 3");
+    choose(QStringLiteral("pythag"));
+    EXPECT_EQ(spoken(*focused()), is(QAccessible::EditableText) + "|a|");
 }
 
 TEST_F(Desk, the_light_and_the_assistant_are_reached_by_keys) {
