@@ -71,7 +71,8 @@ std::vector<PrintSheet> onlySheet(const QJsonObject& test, const TestPlan& plan,
     constexpr double largestRead = 9.2e18;
     const QJsonValue seed = test.value(QStringLiteral("seed"));
     const bool seeded = !seed.isUndefined() && seed.toDouble() < largestRead;
-    std::vector<PrintSheet> sheets = sheetsOf(plan, {MadeTest{seeded ? seedOf(test) : 0, "", std::move(lines), {}}});
+    std::vector<PrintSheet> sheets =
+        sheetsOf(plan, {MadeTest{seeded ? seedOf(test) : 0, "", std::move(lines), {}, {}}});
     if (!seeded) sheets.front().Seed.clear();
     return sheets;
 }
@@ -81,8 +82,11 @@ MadeTest versionOf(const QJsonValue& value) {
     const QJsonObject version = value.toObject();
     const QJsonValue name = version.value(QStringLiteral("version"));
     if (!name.isString()) throw NotATest(QStringLiteral("\"version\" is no text"));
-    return {seedOf(version), name.toString().toStdString(), textsOf(version, QStringLiteral("lines")),
-            textsOf(version, QStringLiteral("key"))};
+    return {seedOf(version),
+            name.toString().toStdString(),
+            textsOf(version, QStringLiteral("lines")),
+            textsOf(version, QStringLiteral("key")),
+            {}};
 }
 
 std::vector<PrintSheet> sheetsOfJson(const QByteArray& line) {
