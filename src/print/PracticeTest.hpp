@@ -43,10 +43,10 @@ struct TestPlan {
 // One version of a test.
 struct MadeTest {
     std::uint64_t seed = 0;
-    std::string version;                    // "A", "B", "C"; "" for the only one
-    std::vector<std::string> lines;         // blank lines, headings and numbered problems
-    std::vector<std::string> key;           // the same with answers; empty if none is wanted
-    std::vector<DocumentSection> sections;  // the same solved, if that is wanted
+    std::string version;                         // "A", "B", "C"; "" for the only one
+    std::vector<std::string> lines;              // blank lines, headings and numbered problems
+    std::vector<std::string> key;                // the same with answers; empty if none is wanted
+    std::vector<DocumentSection> sections = {};  // the same solved, if that is wanted
 };
 
 // Prepares a section: the topic's type, mask and limits, TestHeading and TestSuffix. Returns the type.
