@@ -17,7 +17,7 @@ struct PdfObject {
 std::optional<int> numberBehind(const QByteArray& pdf, const char* name) {
     const qsizetype at = pdf.lastIndexOf(name);
     if (at < 0) return std::nullopt;
-    const QByteArray behind = pdf.mid(at + qstrlen(name), 24);
+    const QByteArray behind = pdf.mid(at + static_cast<qsizetype>(qstrlen(name)), 24);
     const QRegularExpressionMatch match =
         QRegularExpression(QStringLiteral("^\\s+(\\d+)")).match(QString::fromLatin1(behind));
     if (!match.hasMatch()) return std::nullopt;
