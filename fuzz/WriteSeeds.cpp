@@ -33,12 +33,13 @@ std::string typedText(const Case& one) {
     return boxes;
 }
 
-// "(topic)3/4+x" as the fuzzers of keys and solves take it; "" for a topic that there is not.
-std::string behindItsTopic(const Case& one) {
+// "(topic)3/4+x" as the fuzzer of keys takes it, and with more bytes behind the topic that of solves; "" for
+// a topic that there is not.
+std::string behindItsTopic(const Case& one, const std::string& between = "") {
     const auto& names = ordwise::fuzz::topics();
     const auto topic = std::find(names.begin(), names.end(), valueOf(one, "topic"));
     if (topic == names.end()) return "";
-    return static_cast<char>(topic - names.begin()) + typedText(one);
+    return static_cast<char>(topic - names.begin()) + between + typedText(one);
 }
 
 std::string requestLine(const Case& one) {
@@ -51,10 +52,29 @@ std::string requestLine(const Case& one) {
     return request.dump();
 }
 
+// The same as a command line.
+std::string argumentLines(const Case& one) {
+    std::string lines = "solve\n" + valueOf(one, "topic");
+    if (const std::string problem = valueOf(one, "problem"); !problem.empty()) lines += "\n" + problem;
+    for (int number = 1; number <= 6; ++number) {
+        const std::string box = valueOf(one, "box " + std::to_string(number));
+        if (!box.empty()) lines += "\n--box\n" + std::to_string(number) + "=" + box;
+    }
+    return lines;
+}
+
+// At the desk: choose the n-th topic, have an example written, look at its graph, print, and save it.
+std::string sitting(int n) {
+    const std::string nobodyRefuses(4, 1);
+    return nobodyRefuses +
+           std::string{17, 0, static_cast<char>(n % 256), static_cast<char>(n / 256), 23, 26, 41, 42, 20, 6, 18, 0};
+}
+
 class Seeds {
 public:
     explicit Seeds(std::filesystem::path folder) : folder_(std::move(folder)) {
-        for (const char* fuzzer : {"keys", "solve", "batch", "markup"}) create_directories(folder_ / fuzzer);
+        for (const char* fuzzer : {"keys", "solve", "batch", "markup", "desk", "command_line"})
+            create_directories(folder_ / fuzzer);
     }
     void add(const char* fuzzer, const std::string& bytes) {
         if (!bytes.empty()) std::ofstream(folder_ / fuzzer / std::to_string(++count_), std::ios::binary) << bytes;
@@ -73,12 +93,19 @@ int main(int argc, char** argv) {
     Seeds seeds(argv[2]);
     for (const Case& one : ordwise::test::casesIn(argv[1], {"keys"})) {
         seeds.add("keys", behindItsTopic(one));
-        seeds.add("solve", behindItsTopic(one));
+        seeds.add("solve", behindItsTopic(one, std::string(2, '\0')));
+        seeds.add("command_line", argumentLines(one));
         seeds.add("batch", requestLine(one));
         for (const std::string& line : one.wanted) {
             if (line.starts_with("> ")) seeds.add("markup", line.substr(2));
         }
     }
+    for (const std::string& topic : ordwise::fuzz::topics()) {
+        seeds.add("command_line", "test\n--section\n" + topic + ":2\n--key\nsteps");
+        seeds.add("command_line", "example\n" + topic + "\n--seed\n7");
+    }
+    constexpr int mostTopics = 150;
+    for (int n = 0; n < mostTopics; ++n) seeds.add("desk", sitting(n));
     std::cout << seeds.count() << " first inputs\n";
     return seeds.count() > 0 ? 0 : 1;
 }

@@ -58,7 +58,8 @@ AboutDialog::AboutDialog(QWidget* parent, Stage& stage)
     column->addWidget(facts_);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(12);
-    layout->addWidget(new RoomyScroll(told, this));
+    scroll_ = new RoomyScroll(told, this);
+    layout->addWidget(scroll_);
     addButtons(*layout);
     showChanges();
 }
@@ -103,6 +104,7 @@ void AboutDialog::addButtons(QVBoxLayout& layout) {
     connect(licences, &QPushButton::clicked, this, [this] {
         noticesShown_ = true;
         showChanges();
+        facts_->setFocus();
     });
     connect(copy_, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(facts_->toPlainText()); });
@@ -116,6 +118,10 @@ void AboutDialog::showChanges() {
     if (facts_->toPlainText() != facts) facts_->setPlainText(facts);
     facts_->setVisible(!facts.isEmpty());
     copy_->setVisible(!facts.isEmpty());
+    // The room is asked for with the text in it, and not as it was before.
+    facts_->parentWidget()->layout()->activate();
+    scroll_->updateGeometry();
+    layout()->activate();
     constexpr int usualWidth = 520;
     const int width = std::max(usualWidth, sizeHint().width());
     fitToScreen(*this, QSize(width, hasHeightForWidth() ? heightForWidth(width) : sizeHint().height()));

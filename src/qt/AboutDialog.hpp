@@ -25,6 +25,7 @@ private:
     void addButtons(QVBoxLayout& layout);
 
     Stage& stage_;
+    QWidget* scroll_ = nullptr;  // around all that is told
     QPlainTextEdit* facts_;
     bool noticesShown_ = false;  // in the place of the system's information
     QPushButton* copy_ = nullptr;
